@@ -51,8 +51,7 @@ Axis::Tick::Tick(double logicalPosition, double axisPosition, double rank,
     , m_axisPosition(axisPosition)
     , m_rank(rank)
     , m_secondaryLogicalPositions(secondaryLogicalPositions)
-{
-}
+{}
 
 bool Axis::Tick::operator==(const Tick& other) const
 {
@@ -63,8 +62,7 @@ Axis::ScrollScaleState::~ScrollScaleState() = default;
 
 Axis::Axis(QObject* parent)
     : QObject(parent)
-{
-}
+{}
 
 bool Axis::operator!=(const Axis& other) const
 {
@@ -78,21 +76,26 @@ void Axis::update()
 
 void Axis::emitParametersChanged()
 {
-    Q_EMIT parametersChanged(this);
+    Q_EMIT
+    parametersChanged(this);
 }
 
 void Axis::emitMinValChanged(bool withParamChange)
 {
-    Q_EMIT minValueChanged(minValue());
+    Q_EMIT
+    minValueChanged(minValue());
     if (withParamChange)
-        Q_EMIT parametersChanged(this);
+        Q_EMIT
+    parametersChanged(this);
 }
 
 void Axis::emitMaxValChanged(bool withParamChange)
 {
-    Q_EMIT maxValueChanged(maxValue());
+    Q_EMIT
+    maxValueChanged(maxValue());
     if (withParamChange)
-        Q_EMIT parametersChanged(this);
+        Q_EMIT
+    parametersChanged(this);
 }
 
 void Axis::updateRanking(QVector<Tick>& ticks, bool isMajor)

@@ -161,21 +161,21 @@ public Q_SLOTS:
     /// @param bottomLimit smallest logical value that the axis may show
     /// @param topLimit largest logical value that the axis may show
     /// @param pixelSize size of one pixel in axis space
-    virtual void scrollAxis(
-        double at, double by,
-        const boost::shared_ptr<const ScrollScaleState>& base =
-            boost::shared_ptr<const ScrollScaleState>(),
-        double bottomLimit = std::numeric_limits<double>::lowest(),
-        double topLimit = std::numeric_limits<double>::max(), double pixelSize = 1e-18) = 0;
+    virtual void scrollAxis(double at, double by,
+                            const boost::shared_ptr<const ScrollScaleState>& base =
+                                boost::shared_ptr<const ScrollScaleState>(),
+                            double bottomLimit = std::numeric_limits<double>::lowest(),
+                            double topLimit = std::numeric_limits<double>::max(),
+                            double pixelSize = 1e-18) = 0;
 
     /// Changes the size of the visible range. The arguments are those of scrollAxis();
     /// @p pixelSize is the smallest length of the dragged span.
-    virtual void scaleAxis(
-        double at, double by,
-        const boost::shared_ptr<const ScrollScaleState>& base =
-            boost::shared_ptr<const ScrollScaleState>(),
-        double bottomLimit = std::numeric_limits<double>::lowest(),
-        double topLimit = std::numeric_limits<double>::max(), double pixelSize = 1e-18) = 0;
+    virtual void scaleAxis(double at, double by,
+                           const boost::shared_ptr<const ScrollScaleState>& base =
+                               boost::shared_ptr<const ScrollScaleState>(),
+                           double bottomLimit = std::numeric_limits<double>::lowest(),
+                           double topLimit = std::numeric_limits<double>::max(),
+                           double pixelSize = 1e-18) = 0;
 
     /// Tells listeners to read the axis again: emits parametersChanged() and nothing else.
     virtual void update();

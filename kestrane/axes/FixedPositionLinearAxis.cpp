@@ -17,8 +17,8 @@ bool ignoredBySetter(double value, double stored)
 
 bool differs(double value, double stored)
 {
-    return std::isnan(value) != std::isnan(stored)
-           || (!std::isnan(value) && !qFuzzyCompare(value, stored));
+    return std::isnan(value) != std::isnan(stored) ||
+           (!std::isnan(value) && !qFuzzyCompare(value, stored));
 }
 
 } // namespace
@@ -31,8 +31,7 @@ struct FixedPositionLinearAxis::FPLScrollScaleState : Axis::ScrollScaleState
         , anchor(axis.m_anchor)
         , offsetIsAdded(axis.m_offsetIsAdded)
         , numMajorDivisions(axis.m_numMajorDivisions)
-    {
-    }
+    {}
 
     // The state that a gesture counts from: its base, or else the axis as it is now.
     static FPLScrollScaleState of(const boost::shared_ptr<const ScrollScaleState>& base,
@@ -133,10 +132,10 @@ FixedPositionLinearAxis* FixedPositionLinearAxis::clone() const
 bool FixedPositionLinearAxis::operator==(const Axis& other) const
 {
     const auto* linear = dynamic_cast<const FixedPositionLinearAxis*>(&other);
-    return linear && m_numMajorDivisions == linear->m_numMajorDivisions
-           && m_numMinorDivisions == linear->m_numMinorDivisions && m_scale == linear->m_scale
-           && m_offset == linear->m_offset && m_anchor == linear->m_anchor
-           && m_offsetIsAdded == linear->m_offsetIsAdded;
+    return linear && m_numMajorDivisions == linear->m_numMajorDivisions &&
+           m_numMinorDivisions == linear->m_numMinorDivisions && m_scale == linear->m_scale &&
+           m_offset == linear->m_offset && m_anchor == linear->m_anchor &&
+           m_offsetIsAdded == linear->m_offsetIsAdded;
 }
 
 int FixedPositionLinearAxis::numMajorDivisions() const
@@ -169,7 +168,8 @@ void FixedPositionLinearAxis::setNumMajorDivisions(int numDivisions)
     if (numDivisions == m_numMajorDivisions)
         return;
     m_numMajorDivisions = numDivisions;
-    Q_EMIT numMajorDivisionsChanged(numDivisions);
+    Q_EMIT
+    numMajorDivisionsChanged(numDivisions);
     updateInternalValues();
 }
 
@@ -178,7 +178,8 @@ void FixedPositionLinearAxis::setNumMinorDivisions(int numDivisions)
     if (numDivisions == m_numMinorDivisions)
         return;
     m_numMinorDivisions = numDivisions;
-    Q_EMIT numMinorDivisionsChanged(numDivisions);
+    Q_EMIT
+    numMinorDivisionsChanged(numDivisions);
     updateInternalValues();
 }
 
@@ -187,7 +188,8 @@ void FixedPositionLinearAxis::setOffset(double offset)
     if (ignoredBySetter(offset, m_offset))
         return;
     m_offset = offset;
-    Q_EMIT offsetChanged(offset);
+    Q_EMIT
+    offsetChanged(offset);
     updateInternalValues();
 }
 
@@ -196,7 +198,8 @@ void FixedPositionLinearAxis::setScale(double scale)
     if (ignoredBySetter(scale, m_scale))
         return;
     m_scale = scale;
-    Q_EMIT scaleChanged(scale);
+    Q_EMIT
+    scaleChanged(scale);
     updateInternalValues();
 }
 
@@ -207,9 +210,11 @@ void FixedPositionLinearAxis::setOffsetAndScale(double offset, double scale)
     m_offset = offset;
     m_scale = scale;
     if (offsetDiffers)
-        Q_EMIT offsetChanged(offset);
+        Q_EMIT
+    offsetChanged(offset);
     if (scaleDiffers)
-        Q_EMIT scaleChanged(scale);
+        Q_EMIT
+    scaleChanged(scale);
     updateInternalValues();
 }
 
@@ -218,7 +223,8 @@ void FixedPositionLinearAxis::setAnchor(double anchor)
     if (ignoredBySetter(anchor, m_anchor))
         return;
     m_anchor = anchor;
-    Q_EMIT anchorChanged(anchor);
+    Q_EMIT
+    anchorChanged(anchor);
     updateInternalValues();
 }
 
@@ -227,7 +233,8 @@ void FixedPositionLinearAxis::setOffsetIsAdded(bool offsetIsAdded)
     if (offsetIsAdded == m_offsetIsAdded)
         return;
     m_offsetIsAdded = offsetIsAdded;
-    Q_EMIT offsetIsAddedChanged(offsetIsAdded);
+    Q_EMIT
+    offsetIsAddedChanged(offsetIsAdded);
     updateInternalValues();
 }
 
@@ -251,9 +258,11 @@ void FixedPositionLinearAxis::scrollAxis(double /*at*/, double by,
     if (candidate == m_offset)
         return;
     m_offset = candidate;
-    Q_EMIT offsetChanged(candidate);
+    Q_EMIT
+    offsetChanged(candidate);
     updateInternalValues();
-    Q_EMIT axisChangedViaScalingOrScrolling();
+    Q_EMIT
+    axisChangedViaScalingOrScrolling();
 }
 
 void FixedPositionLinearAxis::scaleAxis(double at, double by,
@@ -273,9 +282,11 @@ void FixedPositionLinearAxis::scaleAxis(double at, double by,
     if (candidate == m_scale)
         return;
     m_scale = candidate;
-    Q_EMIT scaleChanged(candidate);
+    Q_EMIT
+    scaleChanged(candidate);
     updateInternalValues();
-    Q_EMIT axisChangedViaScalingOrScrolling();
+    Q_EMIT
+    axisChangedViaScalingOrScrolling();
 }
 
 void FixedPositionLinearAxis::updateInternalValues()
@@ -301,7 +312,8 @@ void FixedPositionLinearAxis::updateInternalValues()
 void FixedPositionLinearAxis::invalidateTicks()
 {
     m_ticksDirty = true;
-    Q_EMIT ticksUpdated();
+    Q_EMIT
+    ticksUpdated();
 }
 
 void FixedPositionLinearAxis::updateTicks()

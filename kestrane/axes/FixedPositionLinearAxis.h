@@ -35,8 +35,8 @@ class KESTRANE_EXPORT FixedPositionLinearAxis : public Axis
     Q_PROPERTY(double offset READ offset WRITE setOffset NOTIFY offsetChanged)
     Q_PROPERTY(double scale READ scale WRITE setScale NOTIFY scaleChanged)
     Q_PROPERTY(double anchor READ anchor WRITE setAnchor NOTIFY anchorChanged)
-    Q_PROPERTY(bool offsetIsAdded READ offsetIsAdded WRITE setOffsetIsAdded NOTIFY
-                   offsetIsAddedChanged)
+    Q_PROPERTY(
+        bool offsetIsAdded READ offsetIsAdded WRITE setOffsetIsAdded NOTIFY offsetIsAddedChanged)
 
 public:
     /// @param scale logical size of one major division

@@ -10,8 +10,7 @@ LinearAxis::LinearAxis(double scale, double offset, double anchor, bool offsetIs
                        int numMajorDivisions, int numMinorDivisions, QObject* parent)
     : FixedPositionLinearAxis(scale, offset, anchor, offsetIsAdded, numMajorDivisions,
                               numMinorDivisions, parent)
-{
-}
+{}
 
 LinearAxis::~LinearAxis() = default;
 

@@ -14,21 +14,21 @@ namespace {
 
 // The meta-type id of T, 0 until it is known. Atomic since a user that comes while another
 // registers may end up here too.
-template <typename T>
+template<typename T>
 std::atomic<int> _metaTypeId{0};
 
-template <typename T>
+template<typename T>
 void registerMetaType(const QByteArray& normalizedName, const QMetaObject* metaObject)
 {
     using Functions = QtMetaTypePrivate::QMetaTypeFunctionHelper<T>;
 
     if (_metaTypeId<T> != 0)
         return;
-    const auto flags = QMetaType::TypeFlags(QtPrivate::QMetaTypeTypeFlags<T>::Flags)
-                       | QMetaType::WasDeclaredAsMetaType;
+    const auto flags = QMetaType::TypeFlags(QtPrivate::QMetaTypeTypeFlags<T>::Flags) |
+                       QMetaType::WasDeclaredAsMetaType;
     _metaTypeId<T> =
-        QMetaType::registerNormalizedType(normalizedName, Functions::Destruct,
-                                          Functions::Construct, int(sizeof(T)), flags, metaObject);
+        QMetaType::registerNormalizedType(normalizedName, Functions::Destruct, Functions::Construct,
+                                          int(sizeof(T)), flags, metaObject);
 }
 
 } // namespace
@@ -48,9 +48,9 @@ void Kestrane::deinitialize()
 
 void Kestrane::registerMetaTypes()
 {
-    registerMetaType<Axis::ScaleMode>(
-        QByteArray(Axis::staticMetaObject.className()) + "::" + "ScaleMode",
-        &Axis::staticMetaObject);
+    registerMetaType<Axis::ScaleMode>(QByteArray(Axis::staticMetaObject.className()) +
+                                          "::" + "ScaleMode",
+                                      &Axis::staticMetaObject);
     registerMetaType<boost::shared_ptr<const Axis::ScrollScaleState>>(
         QMetaObject::normalizedType(
             "boost::shared_ptr<const pelorin::ui::chart::Axis::ScrollScaleState>"),

@@ -8,8 +8,7 @@ PointsBasedPlotHelper::PointsBasedPlotHelper() = default;
 
 PointsBasedPlotHelper::PointsBasedPlotHelper(const PointsBasedPlotHelper&) = default;
 
-PointsBasedPlotHelper&
-PointsBasedPlotHelper::operator=(const PointsBasedPlotHelper&) = default;
+PointsBasedPlotHelper& PointsBasedPlotHelper::operator=(const PointsBasedPlotHelper&) = default;
 
 PointsBasedPlotHelper::~PointsBasedPlotHelper() = default;
 

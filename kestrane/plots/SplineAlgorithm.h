@@ -34,8 +34,8 @@ namespace algo {
 /// Threads: a query moves a cache, so that one object serves one thread at a time.
 ///
 /// Instantiated for backend::SampleIterator.
-template <typename Iterator>
-class SplineAlgorithm : public Subsampler
+template<typename Iterator>
+class KESTRANE_EXPORT SplineAlgorithm : public Subsampler
 {
 public:
     /// @throws std::length_error for more than INT_MAX samples, std::bad_alloc
@@ -58,10 +58,8 @@ private:
     void selectInterval(long long interval);
 
     QVector<double> m_curvature; // A sixth of the second derivative at each sample.
-    long long m_size;            // Samples that the set-up works on: 0 if there are less than 2.
     Iterator m_begin;
     long long m_count;
-    bool m_dirty = true;
 
     // The cubic of the interval last asked for, between samples m_intervalIndex and the next.
     bool m_intervalValid = false;
@@ -73,7 +71,7 @@ private:
     Iterator m_cursor; // Sample m_intervalIndex.
 };
 
-extern template class KESTRANE_EXPORT SplineAlgorithm<backend::SampleIterator>;
+extern template class SplineAlgorithm<backend::SampleIterator>;
 
 } // namespace algo
 } // namespace pelorin

@@ -1,0 +1,51 @@
+#include "kestrane/plots/SamplePlotAlgorithm.h"
+
+#include "kestrane/plots/detail/SegmentWalk.h"
+
+#include <QMutexLocker>
+
+namespace pelorin {
+namespace ui {
+namespace chart {
+
+SamplePlotAlgorithm::SamplePlotAlgorithm() = default;
+
+SamplePlotAlgorithm::~SamplePlotAlgorithm() = default;
+
+void SamplePlotAlgorithm::setSnapshot(backend::PlotSnapshot snapshot)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_snapshot = std::move(snapshot);
+}
+
+std::pair<QVector<QVector<QPointF>>, QVector<QVector<QPointF>>>
+SamplePlotAlgorithm::createSegments(const QSharedPointer<const Axis>& xAxis,
+                                    const QSharedPointer<const Axis>& yAxis, double columnWidth,
+                                    double symbolSpacing)
+{
+    std::pair<QVector<QVector<QPointF>>, QVector<QVector<QPointF>>> result;
+    // Columns that run backwards or stand still would never reach the end of the axis.
+    if (!xAxis || !yAxis || columnWidth < 0.0 || 1.0 + columnWidth == 1.0)
+        return result;
+
+    const QMutexLocker locker(&m_mutex);
+    detail::Column column{0.0, columnWidth};
+    for (const backend::PlotSegment& segment : m_snapshot.segments) {
+        detail::SegmentPlot plot;
+        try {
+            detail::SegmentWalk(segment, *xAxis, *yAxis, {columnWidth, symbolSpacing}, column, plot)
+                .run();
+        } catch (...) {
+            // Ends this segment only: what has been collected of it is drawn.
+        }
+        if (plot.polyline.size() >= 2)
+            result.first.append(std::move(plot.polyline));
+        if (!plot.symbols.isEmpty())
+            result.second.append(std::move(plot.symbols));
+    }
+    return result;
+}
+
+} // namespace chart
+} // namespace ui
+} // namespace pelorin

@@ -1,0 +1,38 @@
+#ifndef KESTRANE_PLOTS_DETAIL_SEGMENTCURVE_H
+#define KESTRANE_PLOTS_DETAIL_SEGMENTCURVE_H
+
+#include "kestrane/backend/PlotSegment.h"
+#include "kestrane/plots/SplineAlgorithm.h"
+
+#include <optional>
+
+namespace pelorin {
+namespace ui {
+namespace chart {
+namespace detail {
+
+/// The curve between the samples of a segment: its subsampler, which is made a spline on first use
+/// and kept in the segment.
+class SegmentCurve
+{
+public:
+    explicit SegmentCurve(const backend::PlotSegment& segment);
+
+    /// The value at a fractional sample index, or nothing outside the range of our own spline: the
+    /// end of the data is too ordinary for an exception. What a foreign subsampler throws passes
+    /// through.
+    std::optional<double> at(double index) const;
+
+private:
+    using Spline = algo::SplineAlgorithm<backend::SampleIterator>;
+
+    boost::shared_ptr<algo::Subsampler> m_subsampler;
+    const Spline* m_ownSpline; // The subsampler if it is exactly that, else null.
+};
+
+} // namespace detail
+} // namespace chart
+} // namespace ui
+} // namespace pelorin
+
+#endif
