@@ -7,8 +7,7 @@ MetaInfo::MetaInfo(double offset_, double scale_, ui::chart::Axis::ScaleMode sca
     : offset(offset_)
     , scale(scale_)
     , scaleMode(scaleMode_)
-{
-}
+{}
 
 bool MetaInfo::operator==(const MetaInfo& other) const
 {

@@ -24,7 +24,7 @@ void MinMaxAverageAlgorithm::reset()
 
 unsigned long MinMaxAverageAlgorithm::count() const
 {
-    return m_count;
+    return static_cast<std::uint32_t>(m_count);
 }
 
 double MinMaxAverageAlgorithm::first() const
@@ -49,7 +49,7 @@ double MinMaxAverageAlgorithm::maxVal() const
 
 double MinMaxAverageAlgorithm::average() const
 {
-    return m_sum / m_count;
+    return m_sum / static_cast<double>(m_count);
 }
 
 } // namespace algo

@@ -9,8 +9,7 @@ PlotSnapshot::PlotSnapshot() = default;
 
 PlotSnapshot::PlotSnapshot(std::vector<PlotSegment> segments_)
     : segments(std::move(segments_))
-{
-}
+{}
 
 PlotSnapshot::PlotSnapshot(const PlotSnapshot& other) = default;
 

@@ -34,7 +34,7 @@ public:
     double average() const;
 
 private:
-    std::uint32_t m_count = 0;
+    std::uint64_t m_count = 0;
     double m_first = 0.0;
     double m_last = 0.0;
     double m_min = 0.0;

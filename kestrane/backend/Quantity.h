@@ -30,7 +30,7 @@ public:
         bool takesPrefix = false; ///< Whether "k", "m" and so on may stand before the symbol.
         double scale = 1.0;
         double offset = 0.0;
-        /// The system of units that it belongs to, such as "US"; empty: belongs to every system.
+        /// The system of units that it belongs to, such as "US"; empty for none in particular.
         QString system;
     };
 

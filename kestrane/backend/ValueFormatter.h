@@ -24,7 +24,8 @@ namespace utilities {
 ///  - Power of ten: "1.5×10⁹". Where no prefix is chosen automatically, it takes the place of
 ///    numbers with more than three times limitRangeCount() digits before the decimal mark, and
 ///    of those with more than limitRangeCount() zeros between the mark and the first digit.
-///  - Zero has neither sign nor prefix: "0 V". What is not finite is "NaN", "∞" or "-∞", alone.
+///  - Zero has no sign, and no prefix unless one is preferred: "0 V". What is not finite is "NaN",
+///    "∞" or "-∞" without a unit.
 ///
 /// Every setting has a getter, a setter and a signal; a setter that changes nothing emits nothing.
 ///
@@ -109,7 +110,9 @@ Q_SIGNALS:
 
 private:
     QString formatNumber(double value) const;
-    pelorin::variables::Quantity::Unit chosenUnit() const;
+    QString formatMagnitude(double magnitude, const variables::Quantity::Unit& unit) const;
+    bool isWithinLimit(int exponent) const;
+    variables::Quantity::Unit chosenUnit() const;
 
     QFlags<FormatterOption> m_options;
     QLocale m_locale;
