@@ -22,9 +22,8 @@ using variables::QuantityManager;
 
 namespace {
 
-constexpr int significantDigits = 4;
-constexpr int limitRangeCount = 3;
-constexpr int chosenAutomatically = 65536;
+constexpr int digitsOfALabel = 4;
+constexpr int rangesWithoutPowers = 3;
 
 TranslationManager& translations()
 {
@@ -34,9 +33,8 @@ TranslationManager& translations()
 } // namespace
 
 TickFormatter::TickFormatter(QObject* parent)
-    : ValueFormatter({}, QLocale(translations().locale()), Quantity(), significantDigits,
-                     limitRangeCount, chosenAutomatically, chosenAutomatically, QString(),
-                     QStringLiteral(" "))
+    : ValueFormatter({}, QLocale(translations().locale()), Quantity(), digitsOfALabel,
+                     rangesWithoutPowers, Automatic, Automatic, QString(), QStringLiteral(" "))
     , m_sizeTemplate(QLatin1String(""))
 {
     setParent(parent);

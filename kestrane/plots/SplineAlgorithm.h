@@ -35,7 +35,7 @@ namespace algo {
 ///
 /// Instantiated for backend::SampleIterator.
 template<typename Iterator>
-class KESTRANE_EXPORT SplineAlgorithm : public Subsampler
+class SplineAlgorithm : public Subsampler
 {
 public:
     /// @throws std::length_error for more than INT_MAX samples, std::bad_alloc
@@ -71,7 +71,7 @@ private:
     Iterator m_cursor; // Sample m_intervalIndex.
 };
 
-extern template class SplineAlgorithm<backend::SampleIterator>;
+extern template class KESTRANE_EXPORT SplineAlgorithm<backend::SampleIterator>;
 
 } // namespace algo
 } // namespace pelorin

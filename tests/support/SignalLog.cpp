@@ -11,8 +11,8 @@ SignalLog::SignalLog(QObject* sender)
 {
     const QMetaObject* meta = sender->metaObject();
     for (int i = 0; i < meta->methodCount(); ++i) {
-        if (meta->method(i).methodType() == QMetaMethod::Signal
-            && meta->method(i).enclosingMetaObject() != &QObject::staticMetaObject)
+        if (meta->method(i).methodType() == QMetaMethod::Signal &&
+            meta->method(i).enclosingMetaObject() != &QObject::staticMetaObject)
             QMetaObject::connect(sender, i, this, QObject::staticMetaObject.methodCount() + i,
                                  Qt::DirectConnection);
     }

@@ -1,0 +1,257 @@
+#include "kestrane/axes/Axis.h"
+#include "kestrane/axes/FixedPositionLinearAxis.h"
+#include "kestrane/axes/LinearAxis.h"
+
+#include "tests/support/SignalLog.h"
+
+#include <QMetaMethod>
+#include <QMetaProperty>
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+using pelorin::ui::chart::Axis;
+using pelorin::ui::chart::FixedPositionLinearAxis;
+using pelorin::ui::chart::LinearAxis;
+using testing::ElementsAre;
+using tests::SignalLog;
+
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+
+// Opens what Axis keeps for its subclasses.
+class OpenAxis : public FixedPositionLinearAxis
+{
+public:
+    using Axis::emitMaxValChanged;
+    using Axis::emitMinValChanged;
+    using Axis::updateRanking;
+};
+
+QVector<Axis::Tick> unrankedTicks(int count)
+{
+    QVector<Axis::Tick> ticks;
+    for (int i = 0; i < count; ++i)
+        ticks.append(Axis::Tick(i, i, 0.0, {}, false));
+    return ticks;
+}
+
+std::vector<double> logicalPositions(const QVector<Axis::Tick>& ticks)
+{
+    std::vector<double> result;
+    for (const Axis::Tick& tick : ticks)
+        result.push_back(tick.logicalPosition());
+    return result;
+}
+
+std::vector<double> ranks(const QVector<Axis::Tick>& ticks)
+{
+    std::vector<double> result;
+    for (const Axis::Tick& tick : ticks)
+        result.push_back(tick.rank());
+    return result;
+}
+
+// The methods of one kind that a class adds to the meta-object of its base, in order.
+QStringList ownMethods(const QMetaObject& meta, QMetaMethod::MethodType type)
+{
+    QStringList result;
+    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
+        if (meta.method(i).methodType() == type)
+            result << QString::fromLatin1(meta.method(i).methodSignature());
+    }
+    return result;
+}
+
+const QStringList gestureForms{
+    "(double,double,boost::shared_ptr<const ScrollScaleState>,double,double,double)",
+    "(double,double,boost::shared_ptr<const ScrollScaleState>,double,double)",
+    "(double,double,boost::shared_ptr<const ScrollScaleState>,double)",
+    "(double,double,boost::shared_ptr<const ScrollScaleState>)",
+    "(double,double)",
+};
+
+QStringList gestureSlots()
+{
+    QStringList result;
+    for (const char* name : {"scrollAxis", "scaleAxis"}) {
+        for (const QString& form : gestureForms)
+            result << name + form;
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(AxisTickTest, OnlyValidTicksAtTheSamePlaceAreEqual)
+{
+    const Axis::Tick tick(1.0, 0.5, 7.0, {2.0}, true);
+
+    EXPECT_TRUE(tick == Axis::Tick(99.0, 0.5, 0.0, {}, false));
+    EXPECT_FALSE(tick == Axis::Tick(1.0, std::nextafter(0.5, 1.0), 7.0, {2.0}, true));
+    EXPECT_FALSE(Axis::Tick(1.0, nan, 0.0, {}, false) == Axis::Tick(1.0, nan, 0.0, {}, false));
+
+    const Axis::Tick invalid;
+    EXPECT_FALSE(invalid == invalid);
+    EXPECT_FALSE(invalid == Axis::Tick(0.0, 0.0, 0.0, {}, false));
+    EXPECT_FALSE(invalid.isValid());
+    EXPECT_FALSE(invalid.isInvisible());
+    EXPECT_EQ(invalid.rank(), -100.0);
+}
+
+TEST(AxisTickTest, MovedFromTickKeepsAllButItsList)
+{
+    Axis::Tick source(1.0, 0.5, 7.0, {2.0, 3.0}, true);
+    Axis::Tick target(std::move(source));
+    EXPECT_EQ(target.secondaryLogicalPositions(), QList<double>({2.0, 3.0}));
+
+    const auto expectMovedFrom = [](const Axis::Tick& tick) {
+        EXPECT_TRUE(tick.isValid());
+        EXPECT_TRUE(tick.isInvisible());
+        EXPECT_EQ(tick.logicalPosition(), 1.0);
+        EXPECT_EQ(tick.axisPosition(), 0.5);
+        EXPECT_EQ(tick.rank(), 7.0);
+        EXPECT_TRUE(tick.secondaryLogicalPositions().isEmpty());
+    };
+    expectMovedFrom(source);
+
+    Axis::Tick assigned(0.0, 0.0, 0.0, {9.0}, false);
+    assigned = std::move(target);
+    EXPECT_EQ(assigned.secondaryLogicalPositions(), QList<double>({2.0, 3.0}));
+    expectMovedFrom(target);
+}
+
+TEST(AxisRankingTest, BisectionGivesTheEndsThenTheMiddleThenTheQuarters)
+{
+    OpenAxis axis;
+
+    QVector<Axis::Tick> five = unrankedTicks(5);
+    axis.updateRanking(five, false);
+    EXPECT_THAT(logicalPositions(five), ElementsAre(4, 0, 2, 3, 1));
+    EXPECT_THAT(ranks(five), ElementsAre(900.0, 500.0, 350.0, 200.0, 150.0));
+
+    QVector<Axis::Tick> nine = unrankedTicks(9);
+    axis.updateRanking(nine, true);
+    EXPECT_THAT(logicalPositions(nine), ElementsAre(8, 0, 4, 6, 2, 7, 5, 3, 1));
+    EXPECT_EQ(nine.first().rank(), (8.0 / 9.0 + 1.0) * 500.0 + 1500.0);
+    EXPECT_EQ(nine.at(1).rank(), 2000.0);
+}
+
+TEST(AxisRankingTest, ShortListsAndPresetRanks)
+{
+    OpenAxis axis;
+    for (const bool isMajor : {false, true}) {
+        QVector<Axis::Tick> none;
+        axis.updateRanking(none, isMajor);
+        EXPECT_TRUE(none.isEmpty());
+    }
+
+    QVector<Axis::Tick> one = unrankedTicks(1);
+    axis.updateRanking(one, true);
+    EXPECT_THAT(ranks(one), ElementsAre(2000.0));
+
+    QVector<Axis::Tick> two = unrankedTicks(2);
+    axis.updateRanking(two, false);
+    EXPECT_THAT(logicalPositions(two), ElementsAre(1, 0));
+    EXPECT_THAT(ranks(two), ElementsAre(750.0, 500.0));
+
+    QVector<Axis::Tick> preset = unrankedTicks(3);
+    preset[1].setRank(2500.0);
+    preset[2].setRank(nan);
+    axis.updateRanking(preset, true);
+    EXPECT_THAT(logicalPositions(preset), ElementsAre(1, 0, 2));
+    EXPECT_EQ(preset.first().rank(), 4000.0);
+}
+
+TEST(AxisRankingTest, EveryMajorTickOutranksEveryMinorTick)
+{
+    OpenAxis axis;
+    for (const int count : {1, 2, 3, 10, 64, 1000}) {
+        QVector<Axis::Tick> major = unrankedTicks(count);
+        QVector<Axis::Tick> minor = unrankedTicks(count);
+        axis.updateRanking(major, true);
+        axis.updateRanking(minor, false);
+        EXPECT_GT(major.last().rank(), 1500.0) << count;
+        EXPECT_LT(major.first().rank(), 2500.0) << count;
+        EXPECT_LT(minor.first().rank(), 1000.0) << count;
+        EXPECT_GT(minor.last().rank(), 0.0) << count;
+    }
+}
+
+TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)
+{
+    OpenAxis axis;
+    SignalLog log(&axis);
+
+    axis.update();
+    EXPECT_EQ(log.take(), QStringList{"parametersChanged(self)"});
+    axis.emitMinValChanged();
+    EXPECT_EQ(log.take(), (QStringList{"minValueChanged(0)", "parametersChanged(self)"}));
+    axis.emitMinValChanged(false);
+    EXPECT_EQ(log.take(), QStringList{"minValueChanged(0)"});
+    axis.emitMaxValChanged();
+    EXPECT_EQ(log.take(), (QStringList{"maxValueChanged(10)", "parametersChanged(self)"}));
+    axis.emitMaxValChanged(false);
+    EXPECT_EQ(log.take(), QStringList{"maxValueChanged(10)"});
+}
+
+TEST(AxisMetaObjectTest, SignalsAndSlotsStandInOrder)
+{
+    const QMetaObject& axis = Axis::staticMetaObject;
+    EXPECT_STREQ(axis.className(), "pelorin::ui::chart::Axis");
+    EXPECT_EQ(ownMethods(axis, QMetaMethod::Signal),
+              (QStringList{"parametersChanged(pelorin::ui::chart::Axis*)",
+                           "minValueChanged(double)", "maxValueChanged(double)", "ticksUpdated()",
+                           "axisChangedViaScalingOrScrolling()"}));
+    EXPECT_EQ(ownMethods(axis, QMetaMethod::Slot),
+              gestureSlots() + QStringList({"update()", "emitParametersChanged()",
+                                            "emitMinValChanged(bool)", "emitMinValChanged()",
+                                            "emitMaxValChanged(bool)", "emitMaxValChanged()"}));
+
+    const QMetaObject& linear = FixedPositionLinearAxis::staticMetaObject;
+    EXPECT_STREQ(linear.className(), "pelorin::ui::chart::FixedPositionLinearAxis");
+    EXPECT_EQ(ownMethods(linear, QMetaMethod::Signal),
+              (QStringList{"numMajorDivisionsChanged(int)", "numMinorDivisionsChanged(int)",
+                           "offsetChanged(double)", "scaleChanged(double)", "anchorChanged(double)",
+                           "offsetIsAddedChanged(bool)"}));
+    EXPECT_EQ(
+        ownMethods(linear, QMetaMethod::Slot),
+        QStringList({"setNumMajorDivisions(int)", "setNumMinorDivisions(int)", "setOffset(double)",
+                     "setScale(double)", "setOffsetAndScale(double,double)", "setAnchor(double)",
+                     "setOffsetIsAdded(bool)"}) +
+            gestureSlots());
+    EXPECT_EQ(LinearAxis().metaObject(), &linear);
+}
+
+TEST(AxisMetaObjectTest, PropertiesReadTheAxis)
+{
+    FixedPositionLinearAxis axis(2.0, 100.0, 0.5);
+
+    const QMetaObject* meta = axis.metaObject();
+    const QMetaProperty minValue = meta->property(meta->indexOfProperty("minValue"));
+    EXPECT_EQ(minValue.read(&axis).toDouble(), 90.0);
+    EXPECT_FALSE(minValue.isWritable() || minValue.isStored() || minValue.isDesignable());
+    EXPECT_EQ(minValue.notifySignal().name(), "minValueChanged");
+
+    const QMetaProperty mode = meta->property(meta->indexOfProperty("scaleMode"));
+    EXPECT_TRUE(mode.isConstant() && mode.isEnumType());
+    EXPECT_EQ(mode.read(&axis).toInt(), 1);
+    EXPECT_EQ(mode.enumerator().keyToValue("Logarithmic"), 0);
+
+    EXPECT_TRUE(axis.setProperty("offset", 50.0));
+    EXPECT_EQ(axis.property("maxValue").toDouble(), 60.0);
+}
+
+TEST(AxisMetaObjectTest, GesturesCanBeInvokedByNameInTheirShortForm)
+{
+    LinearAxis axis;
+    Axis& base = axis;
+    EXPECT_TRUE(
+        QMetaObject::invokeMethod(&base, "scrollAxis", Q_ARG(double, 0.0), Q_ARG(double, 0.5)));
+    EXPECT_EQ(axis.offset(), 5.0);
+    EXPECT_TRUE(
+        QMetaObject::invokeMethod(&base, "scaleAxis", Q_ARG(double, 0.5), Q_ARG(double, 0.25)));
+    EXPECT_EQ(axis.scale(), 2.0);
+}

@@ -1,0 +1,128 @@
+#include "kestrane/axes/FixedPositionLinearAxis.h"
+#include "kestrane/axes/LinearAxis.h"
+
+#include "tests/support/SignalLog.h"
+
+#include <boost/make_shared.hpp>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+using pelorin::ui::chart::Axis;
+using pelorin::ui::chart::FixedPositionLinearAxis;
+using pelorin::ui::chart::LinearAxis;
+using tests::SignalLog;
+
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+constexpr double lowest = std::numeric_limits<double>::lowest();
+constexpr double highest = std::numeric_limits<double>::max();
+const boost::shared_ptr<const Axis::ScrollScaleState> noBase;
+
+// 90 to 110, the value 100 in the middle.
+class LinearGesturesTest : public testing::Test
+{
+protected:
+    FixedPositionLinearAxis axis{2.0, 100.0, 0.5, false, 10, 5};
+};
+
+struct ForeignState : Axis::ScrollScaleState
+{
+};
+
+} // namespace
+
+TEST_F(LinearGesturesTest, ScrollingMovesTheRangeUpForBothSignsOfTheOffset)
+{
+    axis.scrollAxis(0.0, 0.1);
+    EXPECT_EQ(axis.offset(), 102.0);
+    EXPECT_EQ(axis.minValue(), 92.0);
+
+    FixedPositionLinearAxis added(2.0, 100.0, 0.5, true, 10, 5);
+    added.scrollAxis(0.0, 0.1);
+    EXPECT_EQ(added.offset(), 98.0);
+    EXPECT_EQ(added.minValue(), -108.0);
+}
+
+TEST_F(LinearGesturesTest, ScrollingStopsAtTheLimitsAndTheTopOneWins)
+{
+    axis.scrollAxis(0.0, -0.5, noBase, 95.0, 120.0);
+    EXPECT_EQ(axis.minValue(), 95.0);
+    axis.scrollAxis(0.0, 5.0, noBase, 95.0, 120.0);
+    EXPECT_EQ(axis.maxValue(), 120.0);
+    axis.scrollAxis(0.0, 0.0, noBase, 100.0, 110.0);
+    EXPECT_EQ(axis.maxValue(), 110.0);
+    axis.scrollAxis(0.0, nan, noBase, 95.0, 120.0); // What isn't greater gives way to the limit.
+    EXPECT_EQ(axis.minValue(), 95.0);
+    axis.scrollAxis(0.0, 0.1, noBase, nan, 120.0);
+    EXPECT_EQ(axis.maxValue(), 115.0 + 2.0);
+    axis.scrollAxis(0.0, 0.1, noBase, 95.0, nan);
+    EXPECT_TRUE(std::isnan(axis.offset()));
+}
+
+TEST_F(LinearGesturesTest, ScrollingTellsInOrderAndOnlyOfChanges)
+{
+    SignalLog log(&axis);
+    const auto base = axis.scrollScaleState();
+    axis.scrollAxis(0.0, 0.1, base);
+    EXPECT_EQ(log.take(),
+              (QStringList{"offsetChanged(102)", "minValueChanged(92)", "maxValueChanged(112)",
+                           "ticksUpdated()", "parametersChanged(self)",
+                           "axisChangedViaScalingOrScrolling()"}));
+    axis.scrollAxis(0.0, 0.1, base);
+    EXPECT_EQ(log.take(), QStringList());
+    axis.scrollAxis(0.0, 1e-16, noBase); // Less than a step of the offset.
+    EXPECT_EQ(log.take(), QStringList());
+    axis.scrollAxis(0.0, 1e-14, noBase); // Within the tolerance of setOffset(), and yet a change.
+    EXPECT_EQ(log.take().size(), 6);
+}
+
+TEST_F(LinearGesturesTest, ScalingWidensTheRangeAroundTheAnchor)
+{
+    SignalLog log(&axis);
+    axis.scaleAxis(0.5, 0.25);
+    EXPECT_EQ(log.take(),
+              (QStringList{"scaleChanged(4)", "minValueChanged(80)", "maxValueChanged(120)",
+                           "ticksUpdated()", "parametersChanged(self)",
+                           "axisChangedViaScalingOrScrolling()"}));
+    axis.scaleAxis(0.5, 0.0);
+    EXPECT_EQ(log.take(), QStringList());
+
+    LinearAxis fromStart; // With the anchor at 0.0 the gripped value follows the grip.
+    const double gripped = fromStart.inverseTransform(Axis::Linear, 0.75);
+    fromStart.scaleAxis(0.75, 0.25);
+    EXPECT_EQ(fromStart.transform(Axis::Linear, gripped), 0.5);
+}
+
+TEST_F(LinearGesturesTest, ScalingIsBoundByThePixelAndTheTopLimit)
+{
+    const auto base = axis.scrollScaleState();
+    axis.scaleAxis(0.5, 0.5, base, lowest, highest, 0.125);
+    EXPECT_EQ(axis.scale(), 8.0);
+    axis.scaleAxis(0.5, nan, base, lowest, highest, 0.25);
+    EXPECT_EQ(axis.scale(), 4.0);
+    EXPECT_EQ(axis.minValue(), 80.0);
+    axis.scaleAxis(0.5, 0.4, base, lowest, 130.0); // (130 - 80) / 10 from the axis as it is now.
+    EXPECT_EQ(axis.scale(), 5.0);
+    axis.scaleAxis(0.0, 0.1, base);
+    EXPECT_EQ(axis.scale(), 0.0);
+    axis.scaleAxis(nan, 0.0, base);
+    EXPECT_EQ(axis.scale(), (highest - axis.minValue()) / 10) << "NaN gives way to the limit";
+}
+
+TEST_F(LinearGesturesTest, GestureCountsFromItsBaseHoweverOftenItIsCalled)
+{
+    FixedPositionLinearAxis once(2.0, 100.0, 0.5, false, 10, 5);
+    once.scrollAxis(0.3, 0.37, once.scrollScaleState());
+
+    const auto base = axis.scrollScaleState();
+    for (const double by : {0.1, -2.0, 0.2, 0.37})
+        axis.scrollAxis(0.3, by, base);
+    EXPECT_EQ(axis.offset(), once.offset());
+    EXPECT_TRUE(axis == once);
+
+    // A base of another kind counts as none.
+    axis.scrollAxis(0.0, 0.1, boost::make_shared<ForeignState>());
+    EXPECT_EQ(axis.offset(), 0.1 * 2.0 * 10 + once.offset());
+}

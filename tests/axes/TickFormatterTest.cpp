@@ -1,0 +1,149 @@
+#include "kestrane/axes/TickFormatter.h"
+#include "kestrane/backend/Quantity.h"
+#include "kestrane/backend/QuantityManager.h"
+#include "kestrane/backend/Singleton.h"
+#include "kestrane/backend/TranslationManager.h"
+
+#include "tests/support/SignalLog.h"
+
+#include <QLocale>
+#include <QMetaProperty>
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using pelorin::ui::chart::Axis;
+using pelorin::ui::chart::TickFormatter;
+using pelorin::utilities::Singleton;
+using pelorin::utilities::TranslationManager;
+using pelorin::utilities::ValueFormatter;
+using tests::SignalLog;
+
+namespace {
+
+constexpr double absolute = std::numeric_limits<double>::quiet_NaN();
+
+// Writes down what it is asked to format, and with which options.
+class RecordingFormatter : public TickFormatter
+{
+public:
+    QString format(const QVariant& value) override
+    {
+        types << value.userType();
+        return QString::number(value.toDouble()) + (options() & AlwaysSign ? " signed" : "");
+    }
+
+    QList<int> types;
+};
+
+class TickFormatterTest : public testing::Test
+{
+protected:
+    void SetUp() override { translations.setLocale("en_US"); }
+    void TearDown() override { translations.setLocale(before); }
+
+    TranslationManager& translations = Singleton<TranslationManager>::instance();
+    const QString before = translations.locale();
+};
+
+} // namespace
+
+TEST_F(TickFormatterTest, OneLineForEachValueOfATick)
+{
+    RecordingFormatter formatter;
+    const Axis::Tick plain(101.5, 0.5, 0.0, {}, false);
+    const Axis::Tick joint(101.5, 0.5, 0.0, {-3.0, 100.0}, false);
+
+    EXPECT_EQ(formatter.formatTick(plain, absolute), QList<QString>({"101.5"}));
+    EXPECT_EQ(formatter.formatTick(plain, 100.0), QList<QString>({"1.5 signed"}));
+    EXPECT_EQ(formatter.formatTick(joint, absolute), QList<QString>({"101.5", "-3", "100"}));
+    EXPECT_EQ(formatter.formatTick(joint, 100.0),
+              QList<QString>({"1.5 signed", "-103 signed", "0 signed"}));
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(absolute, 0.5, 0.0, {}, false), absolute),
+              QList<QString>({"nan"}));
+    for (const int type : formatter.types)
+        EXPECT_EQ(type, int(QMetaType::Double));
+}
+
+TEST_F(TickFormatterTest, LabelsHaveUnitSignAndLanguage)
+{
+    TickFormatter formatter;
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), absolute),
+              QList<QString>({"0.0015"}));
+    formatter.setQuantity("voltage");
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), absolute),
+              QList<QString>({"1.5 mV"}));
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), 0.001),
+              QList<QString>({"+500 \u00b5V"}));
+    translations.setLocale("de_DE");
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), absolute),
+              QList<QString>({"1,5 mV"}));
+}
+
+TEST_F(TickFormatterTest, RelativeLabelsLeaveOptionsAndListenersAlone)
+{
+    TickFormatter formatter;
+    const auto options = formatter.options();
+    SignalLog log(&formatter);
+    formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {2.0}, false), 0.5);
+    EXPECT_EQ(formatter.options(), options);
+    EXPECT_EQ(log.take(), QStringList());
+
+    formatter.blockSignals(true);
+    formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {}, false), 0.5);
+    EXPECT_FALSE(formatter.signalsBlocked());
+}
+
+TEST_F(TickFormatterTest, ChangesOfSettingsAskForNewLabels)
+{
+    TickFormatter formatter;
+    QStringList heard;
+    QObject::connect(&formatter, &TickFormatter::formatterChanged, [&] { heard << "changed"; });
+    QObject::connect(&formatter, &TickFormatter::quantityChanged,
+                     [&](const QString& name) { heard << name; });
+    QObject::connect(&formatter, &TickFormatter::sizeTemplateChanged,
+                     [&](const QString& text) { heard << text; });
+    const auto take = [&] { return std::exchange(heard, QStringList()); };
+
+    formatter.setQuantity("voltage");
+    EXPECT_EQ(take(), QStringList({"changed", "voltage"}));
+    EXPECT_EQ(formatter.quantity(), "voltage");
+    formatter.setQuantity("voltage");
+    EXPECT_EQ(take(), QStringList());
+
+    translations.setLocale("fr_FR");
+    EXPECT_EQ(take(), QStringList({"changed"}));
+
+    formatter.setOptions(ValueFormatter::AlwaysSign);
+    formatter.setSignificantDigits(6);
+    formatter.setLimitRangeCount(2);
+    formatter.setPreferredUnit(0);
+    formatter.setPreferredPrefix(0);
+    formatter.setPreferredUnitSystem("US");
+    EXPECT_EQ(take(),
+              QStringList({"changed", "changed", "changed", "changed", "changed", "changed"}));
+
+    EXPECT_TRUE(formatter.sizeTemplate().isEmpty() && !formatter.sizeTemplate().isNull());
+    formatter.setSizeTemplate("-88.8 mV");
+    formatter.setSizeTemplate("-88.8 mV");
+    EXPECT_EQ(take(), QStringList({"-88.8 mV"}));
+    EXPECT_EQ(formatter.sizeTemplate(), "-88.8 mV");
+}
+
+TEST_F(TickFormatterTest, MetaObjectOffersItsPropertiesBySignalAndSlot)
+{
+    QObject parent;
+    auto* formatter = new TickFormatter(&parent);
+    EXPECT_EQ(formatter->parent(), &parent);
+    EXPECT_STREQ(formatter->metaObject()->className(), "pelorin::ui::chart::TickFormatter");
+
+    EXPECT_TRUE(formatter->setProperty("quantity", "frequency"));
+    EXPECT_EQ(formatter->property("quantity").toString(), "frequency");
+    const QMetaObject& meta = TickFormatter::staticMetaObject;
+    const char* const methods[] = {"quantityChanged(QString)", "sizeTemplateChanged(QString)",
+                                   "formatterChanged()", "setQuantity(QString)",
+                                   "setSizeTemplate(QString)"};
+    for (int i = 0; i < 5; ++i)
+        EXPECT_STREQ(meta.method(meta.methodOffset() + i).methodSignature(), methods[i]);
+}

@@ -1,0 +1,100 @@
+#include "kestrane/library/Kestrane.h"
+#include "kestrane/axes/LinearAxis.h"
+
+#include <QCoreApplication>
+#include <QMetaType>
+#include <QThread>
+#include <QVariant>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+#include <vector>
+
+using pelorin::ui::chart::Axis;
+using pelorin::ui::chart::LinearAxis;
+using State = boost::shared_ptr<const Axis::ScrollScaleState>;
+
+TEST(KestraneTest, RegistersItsTypesByNameOnce)
+{
+    const char* const names[] = {
+        "pelorin::ui::chart::Axis::ScaleMode",
+        "boost::shared_ptr<const pelorin::ui::chart::Axis::ScrollScaleState>",
+    };
+    Kestrane::initialize();
+    std::vector<int> ids;
+    for (const char* name : names) {
+        ids.push_back(QMetaType::type(name));
+        EXPECT_NE(ids.back(), int(QMetaType::UnknownType)) << name;
+        EXPECT_TRUE(QMetaType::typeFlags(ids.back()) & QMetaType::WasDeclaredAsMetaType) << name;
+    }
+    EXPECT_EQ(QMetaType::metaObjectForType(ids[0]), &Axis::staticMetaObject);
+    EXPECT_TRUE(QMetaType::typeFlags(ids[0]) & QMetaType::IsEnumeration);
+
+    Kestrane::initialize();
+    Kestrane::deinitialize();
+    Kestrane::deinitialize();
+    Kestrane::initialize();
+    for (std::size_t i = 0; i < ids.size(); ++i)
+        EXPECT_EQ(QMetaType::type(names[i]), ids[i]);
+    EXPECT_EQ(qMetaTypeId<Axis::ScaleMode>(), ids[0]);
+    EXPECT_EQ(qMetaTypeId<State>(), ids[1]);
+    Kestrane::deinitialize();
+}
+
+TEST(KestraneTest, ABaseOfAGestureTravelsInAVariant)
+{
+    Kestrane::initialize();
+    const int id =
+        QMetaType::type("boost::shared_ptr<const pelorin::ui::chart::Axis::ScrollScaleState>");
+    LinearAxis axis(2.0);
+    const State state = axis.scrollScaleState();
+    {
+        const QVariant copy(id, &state);
+        EXPECT_EQ(static_cast<const State*>(copy.constData())->get(), state.get());
+        EXPECT_EQ(state.use_count(), 2);
+    }
+    EXPECT_EQ(state.use_count(), 1);
+    EXPECT_EQ(static_cast<const State*>(QVariant(id, nullptr).constData())->get(), nullptr);
+    Kestrane::deinitialize();
+}
+
+TEST(KestraneTest, ChangesOfAnAxisCrossAQueuedConnection)
+{
+    Kestrane::initialize();
+    LinearAxis axis;
+    Axis* heard = nullptr;
+    QObject context;
+    QObject::connect(
+        &axis, &Axis::parametersChanged, &context, [&](Axis* changed) { heard = changed; },
+        Qt::QueuedConnection);
+    EXPECT_NE(QMetaType::type("pelorin::ui::chart::Axis *"), int(QMetaType::UnknownType));
+    axis.setOffset(1.0);
+    EXPECT_EQ(heard, nullptr);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(heard, &axis);
+    Kestrane::deinitialize();
+}
+
+TEST(KestraneTest, AnyThreadMayComeAndGo)
+{
+    std::atomic<bool> start{false};
+    std::vector<std::thread> users;
+    for (int i = 0; i < 4; ++i) {
+        users.emplace_back([&start] {
+            while (!start)
+                std::this_thread::yield();
+            for (int round = 0; round < 200; ++round) {
+                Kestrane::initialize();
+                Kestrane::deinitialize();
+            }
+        });
+    }
+    start = true;
+    for (std::thread& user : users)
+        user.join();
+    EXPECT_EQ(QMetaType::type("pelorin::ui::chart::Axis::ScaleMode"),
+              qMetaTypeId<Axis::ScaleMode>());
+}

@@ -1,0 +1,59 @@
+#ifndef TESTS_SUPPORT_BUILDERS_H
+#define TESTS_SUPPORT_BUILDERS_H
+
+#include "kestrane/axes/LinearAxis.h"
+#include "kestrane/backend/PlotSnapshot.h"
+
+#include <QPointF>
+#include <QSharedPointer>
+#include <QVector>
+
+#include <boost/make_shared.hpp>
+
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
+namespace tests {
+
+using pelorin::ui::chart::Axis;
+
+inline pelorin::backend::PlotSegment segment(const std::vector<double>& samples,
+                                             double offset = 0.0, double scale = 1.0,
+                                             Axis::ScaleMode xMode = Axis::Linear,
+                                             Axis::ScaleMode yMode = Axis::Linear)
+{
+    return pelorin::backend::PlotSegment(
+        boost::make_shared<pelorin::backend::SampleVector>(samples.begin(), samples.end()),
+        pelorin::backend::MetaInfo(offset, scale, xMode), yMode);
+}
+
+inline pelorin::backend::PlotSnapshot
+snapshot(std::initializer_list<pelorin::backend::PlotSegment> segments)
+{
+    return pelorin::backend::PlotSnapshot(segments);
+}
+
+/// An axis from @p from to @p from + @p length.
+inline QSharedPointer<const Axis> linearAxis(double length = 1.0, double from = 0.0)
+{
+    return QSharedPointer<pelorin::ui::chart::LinearAxis>::create(length, from, 0.0, false, 1);
+}
+
+/// Points as pairs of doubles: QPointF compares with a tolerance, which would hide wrong digits.
+using Points = std::vector<std::pair<double, double>>;
+
+inline std::vector<Points> exact(const QVector<QVector<QPointF>>& lists)
+{
+    std::vector<Points> result;
+    for (const QVector<QPointF>& list : lists) {
+        result.emplace_back();
+        for (const QPointF& point : list)
+            result.back().emplace_back(point.x(), point.y());
+    }
+    return result;
+}
+
+} // namespace tests
+
+#endif
