@@ -1,0 +1,21 @@
+#ifndef HOSTS_DATA_CELLNUMBER_H
+#define HOSTS_DATA_CELLNUMBER_H
+
+#include <string_view>
+
+namespace hosts::data {
+
+/// The number that fills @p cell, spaces around it aside, with @p decimalPoint between its whole
+/// part and its decimals. NaN when there is none, or none that is finite.
+double cellNumber(std::string_view cell, char decimalPoint);
+
+/// True for the ways to write that there is no value: nothing, NA, NaN, null, - and their like,
+/// infinities too.
+bool isMissing(std::string_view cell);
+
+/// True for a cell with something in it that is neither a number nor a missing value.
+bool isText(std::string_view cell, char decimalPoint);
+
+} // namespace hosts::data
+
+#endif

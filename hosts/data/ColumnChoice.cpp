@@ -1,0 +1,114 @@
+#include "hosts/data/ColumnChoice.h"
+
+#include "hosts/data/ReadError.h"
+#include "hosts/data/TimeGrid.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cmath>
+
+namespace hosts::data {
+
+namespace {
+
+constexpr std::size_t LeastRegularRows = 3;
+constexpr int MostNamesListed = 12;
+
+QString listOf(const QStringList& names)
+{
+    QStringList shown;
+    for (const QString& name : names.mid(0, MostNamesListed))
+        shown += quoted(name);
+    const int left = names.size() - shown.size();
+    return shown.join(QLatin1String(", ")) +
+           (left > 0 ? QStringLiteral(" and %1 more").arg(left) : QString());
+}
+
+std::vector<int> columnsCalled(const QString& name, const QStringList& names,
+                               Qt::CaseSensitivity sensitivity)
+{
+    std::vector<int> result;
+    for (int column = 0; column < names.size(); ++column) {
+        if (names[column].compare(name, sensitivity) == 0)
+            result.push_back(column);
+    }
+    return result;
+}
+
+int findColumn(const QString& path, const QString& wanted, const QStringList& names)
+{
+    std::vector<int> columns = columnsCalled(wanted, names, Qt::CaseSensitive);
+    if (columns.empty())
+        columns = columnsCalled(wanted, names, Qt::CaseInsensitive);
+    if (columns.size() > 1)
+        throw ReadError(path, QStringLiteral("%1 columns are called %2; give the number of one")
+                                  .arg(columns.size())
+                                  .arg(quoted(wanted)));
+    if (columns.size() == 1)
+        return columns.front();
+    bool isNumber = false;
+    const int number = wanted.toInt(&isNumber);
+    if (isNumber && number >= 1 && number <= names.size())
+        return number - 1;
+    throw ReadError(path, QStringLiteral("no column %1; there are %2: %3")
+                              .arg(quoted(wanted))
+                              .arg(names.size())
+                              .arg(listOf(names)));
+}
+
+bool isCalledLikeATime(const QString& name)
+{
+    static const QRegularExpression pattern(
+        QStringLiteral("^(t|time|times|timestamp|elapsed|seconds?|secs?)([\\W_].*)?$"),
+        QRegularExpression::CaseInsensitiveOption);
+    return pattern.match(name).hasMatch();
+}
+
+bool isRegular(const CsvHead& head, int column)
+{
+    const std::vector<double> times = head.numbers(column);
+    const std::optional<double> step = typicalStep(times);
+    if (!step || times.size() < LeastRegularRows)
+        return false;
+    TimeGrid grid(*step);
+    for (std::size_t row = 0; row < times.size(); ++row) {
+        if (std::isnan(times[row]) ||
+            grid.put(times[row], head.rows[row][static_cast<std::size_t>(column)]) !=
+                TimeGrid::Regular)
+            return false;
+    }
+    return grid.grid().jumps.empty();
+}
+
+std::optional<int> chooseTime(const QString& path, const CsvHead& head, const QString& wanted)
+{
+    if (wanted == QLatin1String("none"))
+        return std::nullopt;
+    if (!wanted.isEmpty())
+        return findColumn(path, wanted, head.names);
+    const bool isTime =
+        head.names.size() > 1 && (isCalledLikeATime(head.names[0]) || isRegular(head, 0));
+    return isTime ? std::optional<int>(0) : std::nullopt;
+}
+
+} // namespace
+
+ColumnChoice chooseColumns(const QString& path, const CsvHead& head, const ReadOptions& options)
+{
+    ColumnChoice choice;
+    choice.time = chooseTime(path, head, options.timeColumn);
+    choice.isAskedFor = !options.columns.isEmpty();
+    for (const QString& wanted : options.columns) {
+        const int column = findColumn(path, wanted, head.names);
+        if (std::find(choice.values.begin(), choice.values.end(), column) == choice.values.end())
+            choice.values.push_back(column);
+    }
+    for (int column = 0; !choice.isAskedFor && column < head.names.size(); ++column) {
+        if (column != choice.time)
+            choice.values.push_back(column);
+    }
+    return choice;
+}
+
+} // namespace hosts::data
