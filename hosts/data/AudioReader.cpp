@@ -83,7 +83,8 @@ std::vector<SampleRuns> readChannels(SNDFILE* sound, const SF_INFO& info,
                 result[i].put(frames[frame * width + static_cast<std::size_t>(channels[i])]);
         }
         done += got;
-        progress(static_cast<double>(done) / static_cast<double>(std::max(info.frames, done + 1)));
+        progress(static_cast<double>(done) /
+                 static_cast<double>(std::max({info.frames, done, sf_count_t(1)})));
     }
     return result;
 }

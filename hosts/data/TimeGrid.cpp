@@ -82,7 +82,8 @@ double TimeGrid::step() const
 TimeGrid::Verdict TimeGrid::put(double time, std::string_view cell)
 {
     const double unit = roundingUnit(cell);
-    const double steps = (time - m_last) / step();
+    const double step = this->step();
+    const double steps = (time - m_last) / step;
     if (m_row == 0) {
         m_grid.offset = time;
     } else if (!(time > m_last)) {
@@ -95,7 +96,7 @@ TimeGrid::Verdict TimeGrid::put(double time, std::string_view cell)
     if (places != 1)
         m_grid.jumps.push_back({m_row, m_place});
     if (m_row > 0) {
-        const double tolerance = std::clamp(unit, LeastTolerance * step(), MostTolerance * step());
+        const double tolerance = std::clamp(unit, LeastTolerance * step, MostTolerance * step);
         const double k = static_cast<double>(m_place);
         m_slowest = std::max(m_slowest, (time - m_grid.offset - tolerance) / k);
         m_fastest = std::min(m_fastest, (time - m_grid.offset + tolerance) / k);
