@@ -1,9 +1,6 @@
 #include "kestrane/backend/QuantityManager.h"
 
-#include <QReadLocker>
-#include <QWriteLocker>
-
-#include <utility>
+#include <QMutexLocker>
 
 namespace pelorin {
 namespace variables {
@@ -89,19 +86,19 @@ QuantityManager::~QuantityManager() = default;
 
 Quantity QuantityManager::quantity(const QString& name) const
 {
-    const QReadLocker locker(&m_lock);
+    const QMutexLocker locker(&m_mutex);
     return m_quantities.value(name, Quantity(name));
 }
 
 void QuantityManager::add(const Quantity& quantity)
 {
-    const QWriteLocker locker(&m_lock);
+    const QMutexLocker locker(&m_mutex);
     m_quantities.insert(quantity, quantity);
 }
 
 QStringList QuantityManager::names() const
 {
-    const QReadLocker locker(&m_lock);
+    const QMutexLocker locker(&m_mutex);
     return m_quantities.keys();
 }
 

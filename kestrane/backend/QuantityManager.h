@@ -6,7 +6,7 @@
 #include "kestrane/backend/Singleton.h"
 
 #include <QMap>
-#include <QReadWriteLock>
+#include <QMutex>
 #include <QStringList>
 
 namespace pelorin {
@@ -41,7 +41,7 @@ public:
     QStringList names() const;
 
 private:
-    mutable QReadWriteLock m_lock;
+    mutable QMutex m_mutex;
     QMap<QString, Quantity> m_quantities;
 };
 

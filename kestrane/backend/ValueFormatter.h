@@ -16,8 +16,8 @@ namespace utilities {
 /// Writes measured values for people: "1.5 mV", "20 kHz", "-3,2 s".
 ///
 /// The text is a number as the locale writes it (decimal mark, signs, digits and group marks),
-/// rounded to the significant digits and without zeros at the end of its decimals; then, for a
-/// quantity with units, the separator, the prefix and the symbol of the unit.
+/// rounded to the significant digits (a tie away from zero) without zeros behind its decimals;
+/// then, for a quantity with units, the separator, the prefix and the symbol of the unit.
 ///
 ///  - Prefix: y (10^-24) to Y (10^24) in steps of a thousand, so that the rounded number lies in
 ///    [1, 1000): 999.96 Hz in 4 digits is "1 kHz". Past both ends it is a power of ten instead.
