@@ -1,0 +1,235 @@
+#include "hosts/charting/ChartLayout.h"
+
+#include "hosts/charting/LabelPlacer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace hosts::charting {
+
+namespace {
+
+using Style = TextMeasure::Style;
+
+constexpr double tickLabelDistance = 9.0; // From the plot.
+constexpr double edge = 12.0;             // Free space along the edge of the picture.
+constexpr double spacing = 8.0;           // Between blocks of text.
+constexpr double breathing = 2.0;         // The least that a tick label keeps from the edge.
+constexpr double sampleWidth = 18.0;
+constexpr double sampleDistance = 6.0;
+constexpr double entryDistance = 18.0;
+constexpr double mostLegendWidth = 260.0;
+constexpr double mostLegendShare = 0.25; // Of the picture's height.
+constexpr double smallestPlot = 10.0;
+
+class LayoutWork
+{
+public:
+    LayoutWork(const QSizeF& size, const TextMeasure& measure)
+        : m_measure(measure)
+    {
+        m_layout.size = size;
+    }
+
+    ChartLayout work(const ChartTexts& texts)
+    {
+        placePlot(texts);
+        placeHeadings(texts);
+        placeTickLabels(texts);
+        return m_layout;
+    }
+
+private:
+    void placePlot(const ChartTexts& texts);
+    void placeLegend(const QStringList& names, double top, double left, double right);
+    void endLegend(int names, double left, double right);
+    void placeHeadings(const ChartTexts& texts);
+    void placeTickLabels(const ChartTexts& texts);
+    void takeLabel(LabelPlacer& placer, const QStringList& lines, const QRectF& place,
+                   Qt::Alignment alignment);
+    QSizeF labelSize(const QStringList& lines) const;
+    double leftMargin(const ChartTexts& texts) const;
+    double rightMargin(const ChartTexts& texts, double left) const;
+    double bottomMargin(const ChartTexts& texts) const;
+    double legendHeight() const;
+
+    const TextMeasure& m_measure;
+    ChartLayout m_layout;
+};
+
+QSizeF LayoutWork::labelSize(const QStringList& lines) const
+{
+    double width = 0.0;
+    for (const QString& line : lines)
+        width = std::max(width, m_measure.width(line, Style::Text));
+    return {width, double(lines.size()) * m_measure.height(Style::Text)};
+}
+
+double LayoutWork::leftMargin(const ChartTexts& texts) const
+{
+    double widest = 0.0;
+    for (const TickMark& mark : texts.yMarks)
+        widest = std::max(widest, labelSize(mark.label).width());
+    const double caption = texts.yCaption.isEmpty() ? 0.0 : m_measure.height(Style::Text) + spacing;
+    const double most = 0.4 * m_layout.size.width();
+    return edge + caption + std::min(widest, most) + tickLabelDistance;
+}
+
+// A label centred on x = left + p * (width - left - right) ends at the edge of the picture for the
+// right margin that solves this for it.
+double LayoutWork::rightMargin(const ChartTexts& texts, double left) const
+{
+    double margin = edge;
+    const double room = m_layout.size.width() - left;
+    for (const TickMark& mark : texts.xMarks) {
+        const double half = labelSize(mark.label).width() / 2.0 + breathing;
+        if (mark.place > 0.5)
+            margin = std::max(margin, (half - (1.0 - mark.place) * room) / mark.place);
+    }
+    return std::min(margin, 0.25 * m_layout.size.width());
+}
+
+double LayoutWork::bottomMargin(const ChartTexts& texts) const
+{
+    double highest = 0.0;
+    for (const TickMark& mark : texts.xMarks)
+        highest = std::max(highest, labelSize(mark.label).height());
+    const double caption =
+        texts.xCaption.isEmpty() ? 0.0 : m_measure.height(Style::Text) + spacing / 2.0;
+    return tickLabelDistance + highest + caption + spacing;
+}
+
+double LayoutWork::legendHeight() const
+{
+    return m_layout.legend.isEmpty() ? 0.0
+                                     : m_layout.legend.last().name.place.bottom() -
+                                           m_layout.legend.first().name.place.top();
+}
+
+void LayoutWork::placePlot(const ChartTexts& texts)
+{
+    const double left = leftMargin(texts);
+    const double right = m_layout.size.width() - rightMargin(texts, left);
+    const double title = texts.title.isEmpty() ? 0.0 : m_measure.height(Style::Title) + spacing;
+    placeLegend(texts.legend, edge + title, left, right);
+    const double legend = m_layout.legend.isEmpty() ? 0.0 : legendHeight() + spacing;
+    const double top = edge + title + legend;
+    const double bottom = m_layout.size.height() - bottomMargin(texts);
+    m_layout.plot = QRectF(left, top, std::max(right - left, smallestPlot),
+                           std::max(bottom - top, smallestPlot));
+}
+
+void LayoutWork::placeLegend(const QStringList& names, double top, double left, double right)
+{
+    const double height = m_measure.height(Style::Text);
+    const double rowHeight = height + spacing / 2.0;
+    const int mostRows = std::max(1, int(mostLegendShare * m_layout.size.height() / rowHeight));
+    const double widest = std::min(mostLegendWidth, right - left - sampleWidth - sampleDistance);
+    double x = left;
+    int row = 0;
+    for (int i = 0; i < names.size(); ++i) {
+        const QString name = m_measure.elided(names[i], Style::Text, widest);
+        const double textWidth = m_measure.width(name, Style::Text);
+        if (x > left && x + sampleWidth + sampleDistance + textWidth > right) {
+            x = left;
+            if (++row == mostRows) {
+                endLegend(int(names.size()), left, right);
+                return;
+            }
+        }
+        const double y = top + row * rowHeight;
+        const double textLeft = x + sampleWidth + sampleDistance;
+        m_layout.legend.append(
+            {i, QRectF(x, y, sampleWidth, height), {name, QRectF(textLeft, y, textWidth, height)}});
+        x = textLeft + textWidth + entryDistance;
+    }
+}
+
+void LayoutWork::endLegend(int names, double left, double right)
+{
+    const double y = m_layout.legend.last().name.place.top();
+    QString text;
+    double x = left;
+    double width = 0.0;
+    for (;;) {
+        text = QStringLiteral("and %1 more").arg(names - m_layout.legend.size());
+        width = m_measure.width(text, Style::Text);
+        const bool isRowEmpty =
+            m_layout.legend.isEmpty() || m_layout.legend.last().name.place.top() < y;
+        x = isRowEmpty ? left : m_layout.legend.last().name.place.right() + entryDistance;
+        if (isRowEmpty || x + width <= right)
+            break;
+        m_layout.legend.removeLast();
+    }
+    m_layout.legend.append(
+        {-1, QRectF(), {text, QRectF(x, y, width, m_measure.height(Style::Text))}});
+}
+
+void LayoutWork::placeHeadings(const ChartTexts& texts)
+{
+    const double height = m_measure.height(Style::Text);
+    const double titleWidth = m_layout.size.width() - m_layout.plot.left() - edge;
+    m_layout.title.text = m_measure.elided(texts.title, Style::Title, titleWidth);
+    m_layout.title.place =
+        QRectF(m_layout.plot.left(), edge, m_measure.width(m_layout.title.text, Style::Title),
+               m_measure.height(Style::Title));
+
+    m_layout.xCaption.text = m_measure.elided(texts.xCaption, Style::Text, m_layout.plot.width());
+    const double xWidth = m_measure.width(m_layout.xCaption.text, Style::Text);
+    m_layout.xCaption.place = QRectF(m_layout.plot.center().x() - xWidth / 2.0,
+                                     m_layout.size.height() - spacing - height, xWidth, height);
+
+    m_layout.yCaption.text = m_measure.elided(texts.yCaption, Style::Text, m_layout.plot.height());
+    const double yWidth = m_measure.width(m_layout.yCaption.text, Style::Text);
+    m_layout.yCaption.place =
+        QRectF(edge, m_layout.plot.center().y() - yWidth / 2.0, height, yWidth);
+}
+
+void LayoutWork::placeTickLabels(const ChartTexts& texts)
+{
+    const QRectF picture(QPointF(0.0, 0.0), m_layout.size);
+    LabelPlacer placer(picture.adjusted(breathing, breathing, -breathing, -breathing),
+                       QSizeF(spacing, 0.0));
+    placer.take(m_layout.title.place);
+    placer.take(m_layout.xCaption.place);
+    placer.take(m_layout.yCaption.place);
+    for (const LegendEntry& entry : std::as_const(m_layout.legend))
+        placer.take(entry.name.place);
+    for (const TickMark& mark : texts.xMarks) {
+        const QSizeF size = labelSize(mark.label);
+        const QPointF corner(m_layout.xAt(mark.place) - size.width() / 2.0,
+                             m_layout.plot.bottom() + tickLabelDistance);
+        takeLabel(placer, mark.label, QRectF(corner, size), Qt::AlignHCenter);
+    }
+    for (const TickMark& mark : texts.yMarks) {
+        const QSizeF size = labelSize(mark.label);
+        const QPointF corner(m_layout.plot.left() - tickLabelDistance - size.width(),
+                             m_layout.yAt(mark.place) - size.height() / 2.0);
+        takeLabel(placer, mark.label, QRectF(corner, size), Qt::AlignRight);
+    }
+}
+
+void LayoutWork::takeLabel(LabelPlacer& placer, const QStringList& lines, const QRectF& place,
+                           Qt::Alignment alignment)
+{
+    if (!placer.take(place))
+        return;
+    const double height = m_measure.height(Style::Text);
+    double y = place.top();
+    for (const QString& line : lines) {
+        const double free = place.width() - m_measure.width(line, Style::Text);
+        const double shift = alignment == Qt::AlignRight ? free : free / 2.0;
+        m_layout.tickLabels.append(
+            {line, QRectF(place.left() + shift, y, place.width() - free, height)});
+        y += height;
+    }
+}
+
+} // namespace
+
+ChartLayout ChartLayout::of(const QSizeF& size, const ChartTexts& texts, const TextMeasure& measure)
+{
+    return LayoutWork(size, measure).work(texts);
+}
+
+} // namespace hosts::charting

@@ -1,0 +1,67 @@
+#ifndef HOSTS_CHARTING_CHARTLAYOUT_H
+#define HOSTS_CHARTING_CHARTLAYOUT_H
+
+#include "hosts/charting/Chart.h"
+#include "hosts/charting/TextMeasure.h"
+
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QVector>
+
+namespace hosts::charting {
+
+/// One line of text and the place that it fills.
+struct PlacedText
+{
+    QString text;
+    QRectF place;
+};
+
+/// A text of the legend with the place for a sample of its curve.
+struct LegendEntry
+{
+    int curve = 0; ///< Negative for the entry that counts the curves which found no room.
+    QRectF sample;
+    PlacedText name;
+};
+
+/// Where everything of a chart goes, in logical pixels from the top left corner of the picture.
+///
+///     +------------------------------+
+///     |     title                    |
+///     |     -- legend   -- legend    |
+///     |   1 +----------------------+ |
+///     | y   |        plot          | |
+///     |   0 +----------------------+ |
+///     |     0          1           2 |
+///     |              x               |
+///     +------------------------------+
+///
+/// Laws:
+///  1. No text overlaps another or passes the edge of the picture; what has no room is shortened
+///     or left out.
+///  2. Where two tick labels of an axis are in each other's way, the one of higher rank stays.
+struct ChartLayout
+{
+    /// @param size of the picture
+    static ChartLayout of(const QSizeF& size, const ChartTexts& texts, const TextMeasure& measure);
+
+    /// The horizontal coordinate of a place on the x axis.
+    double xAt(double place) const { return plot.left() + place * plot.width(); }
+
+    /// The vertical coordinate of a place on the y axis, which runs upwards.
+    double yAt(double place) const { return plot.bottom() - place * plot.height(); }
+
+    QSizeF size;
+    QRectF plot;
+    PlacedText title;
+    PlacedText xCaption;
+    PlacedText yCaption; ///< Reads upwards: its place is as wide as the text is high.
+    QVector<LegendEntry> legend;
+    QVector<PlacedText> tickLabels; ///< An entry for each line of each label that found room.
+};
+
+} // namespace hosts::charting
+
+#endif

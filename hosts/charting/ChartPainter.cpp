@@ -1,0 +1,186 @@
+#include "hosts/charting/ChartPainter.h"
+
+#include "hosts/charting/PolylineClipper.h"
+
+#include <QLineF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace hosts::charting {
+
+using Style = TextMeasure::Style;
+
+ChartPainter::ChartPainter(QPainter& painter, const Look& look, double deviceScale)
+    : m_painter(painter)
+    , m_look(look)
+    , m_measure(look)
+    , m_deviceScale(deviceScale)
+{
+    m_painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+}
+
+void ChartPainter::paint(const Chart& chart, const ChartLayout& layout)
+{
+    m_painter.fillRect(QRectF(QPointF(0.0, 0.0), layout.size), m_look.background);
+    m_painter.fillRect(layout.plot, m_look.plotBackground);
+    paintGrid(chart, layout, false);
+    paintGrid(chart, layout, true);
+    paintTicks(chart, layout);
+    for (int i = 0; i < chart.curves.size(); ++i)
+        paintCurve(chart, layout, i);
+    paintFrame(layout.plot);
+    for (const PlacedText& label : layout.tickLabels)
+        paintText(label, Style::Text, m_look.faintText);
+    paintLegend(chart, layout);
+    paintHeadings(layout);
+}
+
+double ChartPainter::lineWidth() const
+{
+    if (m_deviceScale == 0.0)
+        return m_look.gridWidth;
+    return std::max(1.0, std::floor(m_look.gridWidth * m_deviceScale)) / m_deviceScale;
+}
+
+// The middle of a line of lineWidth() that covers whole device pixels.
+double ChartPainter::onPixel(double coordinate) const
+{
+    if (m_deviceScale == 0.0)
+        return coordinate;
+    const double half = lineWidth() / 2.0;
+    return std::floor((coordinate - half) * m_deviceScale + 0.5) / m_deviceScale + half;
+}
+
+double ChartPainter::lineAtX(const ChartLayout& layout, const TickMark& mark) const
+{
+    return onPixel(layout.xAt(mark.place));
+}
+
+double ChartPainter::lineAtY(const ChartLayout& layout, const TickMark& mark) const
+{
+    return onPixel(layout.yAt(mark.place));
+}
+
+void ChartPainter::setLinePen(const QColor& color)
+{
+    QPen pen(color, lineWidth());
+    pen.setCapStyle(Qt::FlatCap);
+    pen.setJoinStyle(Qt::MiterJoin);
+    m_painter.setPen(pen);
+    m_painter.setBrush(Qt::NoBrush);
+}
+
+void ChartPainter::paintGrid(const Chart& chart, const ChartLayout& layout, bool major)
+{
+    const QRectF& plot = layout.plot;
+    setLinePen(major ? m_look.majorGrid : m_look.minorGrid);
+    for (const TickMark& mark : chart.texts.xMarks) {
+        const double x = lineAtX(layout, mark);
+        if (mark.major == major)
+            m_painter.drawLine(QLineF(x, plot.top(), x, plot.bottom()));
+    }
+    for (const TickMark& mark : chart.texts.yMarks) {
+        const double y = lineAtY(layout, mark);
+        if (mark.major == major)
+            m_painter.drawLine(QLineF(plot.left(), y, plot.right(), y));
+    }
+}
+
+void ChartPainter::paintTicks(const Chart& chart, const ChartLayout& layout)
+{
+    const QRectF& plot = layout.plot;
+    setLinePen(m_look.frame);
+    for (const TickMark& mark : chart.texts.xMarks) {
+        const double x = lineAtX(layout, mark);
+        const double length = mark.major ? m_look.majorTickLength : m_look.minorTickLength;
+        m_painter.drawLine(QLineF(x, plot.bottom(), x, plot.bottom() + length));
+    }
+    for (const TickMark& mark : chart.texts.yMarks) {
+        const double y = lineAtY(layout, mark);
+        const double length = mark.major ? m_look.majorTickLength : m_look.minorTickLength;
+        m_painter.drawLine(QLineF(plot.left() - length, y, plot.left(), y));
+    }
+}
+
+void ChartPainter::paintFrame(const QRectF& plot)
+{
+    setLinePen(m_look.frame);
+    m_painter.drawRect(QRectF(QPointF(onPixel(plot.left()), onPixel(plot.top())),
+                              QPointF(onPixel(plot.right()), onPixel(plot.bottom()))));
+}
+
+void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int index)
+{
+    const Curve& curve = chart.curves[index];
+    const QColor color = m_look.curveColor(index);
+    const auto toPicture = [&](const QPointF& point) {
+        return QPointF(layout.xAt(chart.x.place(point.x())), layout.yAt(chart.y.place(point.y())));
+    };
+    QPen pen(color, m_look.curveWidth);
+    pen.setCapStyle(Qt::RoundCap);
+    pen.setJoinStyle(Qt::RoundJoin);
+    for (const QVector<QPointF>& polyline : curve.polylines) {
+        QVector<QPointF> points(polyline.size());
+        std::transform(polyline.cbegin(), polyline.cend(), points.begin(), toPicture);
+        m_painter.setPen(pen);
+        m_painter.setBrush(Qt::NoBrush);
+        for (const QVector<QPointF>& piece : clipPolyline(points, layout.plot))
+            m_painter.drawPolyline(piece.constData(), int(piece.size()));
+    }
+    for (const QVector<QPointF>& symbols : curve.symbols) {
+        for (const QPointF& symbol : symbols) {
+            const QPointF centre = toPicture(symbol);
+            if (layout.plot.contains(centre))
+                paintSymbol(centre, color);
+        }
+    }
+}
+
+void ChartPainter::paintSymbol(const QPointF& centre, const QColor& color)
+{
+    m_painter.setPen(QPen(color, m_look.curveWidth));
+    m_painter.setBrush(m_look.plotBackground);
+    m_painter.drawEllipse(centre, m_look.symbolRadius, m_look.symbolRadius);
+}
+
+void ChartPainter::paintLegend(const Chart& chart, const ChartLayout& layout)
+{
+    for (const LegendEntry& entry : layout.legend) {
+        paintText(entry.name, Style::Text, m_look.text);
+        if (entry.curve < 0)
+            continue;
+        const QColor color = m_look.curveColor(entry.curve);
+        const double y = entry.sample.center().y();
+        m_painter.setPen(QPen(color, m_look.curveWidth * 2.0));
+        m_painter.drawLine(QLineF(entry.sample.left(), y, entry.sample.right(), y));
+        if (!chart.curves[entry.curve].symbols.isEmpty())
+            paintSymbol(entry.sample.center(), color);
+    }
+}
+
+void ChartPainter::paintHeadings(const ChartLayout& layout)
+{
+    paintText(layout.title, Style::Title, m_look.text);
+    paintText(layout.xCaption, Style::Text, m_look.text);
+    paintUprightText(layout.yCaption, m_look.text);
+}
+
+void ChartPainter::paintText(const PlacedText& text, Style style, const QColor& color)
+{
+    m_painter.setPen(color);
+    m_painter.setFont(style == Style::Title ? m_look.titleFont() : m_look.textFont());
+    m_painter.drawText(text.place.topLeft() + QPointF(0.0, m_measure.ascent(style)), text.text);
+}
+
+void ChartPainter::paintUprightText(const PlacedText& text, const QColor& color)
+{
+    m_painter.save();
+    m_painter.translate(text.place.bottomLeft());
+    m_painter.rotate(-90.0);
+    const QSizeF size = text.place.size().transposed();
+    paintText({text.text, QRectF(QPointF(0.0, 0.0), size)}, Style::Text, color);
+    m_painter.restore();
+}
+
+} // namespace hosts::charting

@@ -1,0 +1,145 @@
+#include "hosts/kestrane-chart/Drawing.h"
+
+#include "hosts/charting/AutoRange.h"
+#include "hosts/charting/FontMeasure.h"
+#include "hosts/kestrane-chart/Extent.h"
+#include "hosts/kestrane-chart/WorkError.h"
+
+#include <kestrane/backend/QuantityManager.h>
+#include <kestrane/plots/SamplePlotAlgorithm.h>
+
+#include <algorithm>
+
+namespace hosts::chart {
+
+using charting::AxisDivision;
+using charting::AxisView;
+using charting::Chart;
+using charting::ChartLayout;
+using charting::ChartTexts;
+using charting::Curve;
+using charting::Look;
+using data::Series;
+using pelorin::ui::chart::SamplePlotAlgorithm;
+using pelorin::utilities::Singleton;
+using pelorin::variables::Quantity;
+using pelorin::variables::QuantityManager;
+
+namespace {
+
+constexpr int pixelsPerXDivision = 100;
+constexpr int pixelsPerYDivision = 75;
+
+QString number(double value)
+{
+    return QString::number(value, 'g', 10);
+}
+
+int divisionsIn(int length, int pixelsPerDivision)
+{
+    return std::clamp(length / pixelsPerDivision, 2, 30);
+}
+
+// A unit that is to be written as it is, is a quantity of its own whose unit takes no prefix.
+QString quantityOf(const AxisOptions& axis)
+{
+    if (axis.unit.isEmpty())
+        return axis.quantity;
+    const QString name = QStringLiteral("in ") + axis.unit;
+    Quantity::Unit unit;
+    unit.symbol = axis.unit;
+    Singleton<QuantityManager>::instance().add(Quantity(name, {unit}));
+    return name;
+}
+
+AxisDivision xDivision(const std::vector<Series>& series, const Options& options)
+{
+    const std::optional<Extent> data = Extent::ofAbscissas(series);
+    if (!data)
+        throw WorkError(QStringLiteral("there are no samples to draw"));
+    const int wanted = divisionsIn(options.size.width(), pixelsPerXDivision);
+    const auto spread = AxisDivision::spread(data->low, data->high);
+    const auto rounded = AxisDivision::rounded(options.x.from.value_or(spread.first),
+                                               options.x.to.value_or(spread.second), wanted);
+    const double from = options.x.from.value_or(rounded.first);
+    const double to = options.x.to.value_or(rounded.second);
+    if (from > data->high || to < data->low || !AxisDivision::isUsableRange(from, to))
+        throw WorkError(
+            QStringLiteral("nothing to draw from x = %1 to %2: the data go from %3 to %4")
+                .arg(number(from), number(to), number(data->low), number(data->high)));
+    return AxisDivision::of(from, to, wanted, options.ticks);
+}
+
+AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, const Options& options)
+{
+    const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
+    if (!data)
+        throw WorkError(
+            QStringLiteral("nothing to draw from x = %1 to %2: there is a gap in the data")
+                .arg(number(x.from()), number(x.to())));
+    const int wanted = divisionsIn(options.size.height(), pixelsPerYDivision);
+    const AxisDivision automatic =
+        charting::autoRange(data->low, data->high, wanted, options.ticks);
+    if (!options.y.from && !options.y.to)
+        return automatic;
+    const double bottom = options.y.from.value_or(automatic.from);
+    const double top = options.y.to.value_or(automatic.from + automatic.step * automatic.major);
+    if (!AxisDivision::isUsableRange(bottom, top))
+        throw WorkError(
+            QStringLiteral("nothing to draw from y = %1 to %2: the data go from %3 to %4")
+                .arg(number(bottom), number(top), number(data->low), number(data->high)));
+    return AxisDivision::of(bottom, top, wanted, options.ticks);
+}
+
+QStringList curveNames(const std::vector<Series>& series, const Options& options)
+{
+    if (options.legend.size() > int(series.size()))
+        throw WorkError(QStringLiteral("--legend: there are %1 names, but only %2 to draw")
+                            .arg(options.legend.size())
+                            .arg(series.size()));
+    QStringList names = options.legend;
+    for (int i = int(names.size()); i < int(series.size()); ++i)
+        names.append(series[std::size_t(i)].name);
+    return names;
+}
+
+Curve curveOf(const Series& series, const Chart& chart, double plotWidth, const Options& options)
+{
+    const double columns = plotWidth * options.deviceScale() / chart.x.visible();
+    SamplePlotAlgorithm algorithm;
+    algorithm.setSnapshot(series.snapshot);
+    const auto segments = algorithm.createSegments(chart.x.axis(), chart.y.axis(), 1.0 / columns,
+                                                   options.symbolSpacing * options.deviceScale());
+    return {segments.first, segments.second};
+}
+
+ChartTexts textsOf(const AxisView& x, const AxisView& y, const QStringList& names,
+                   const Options& options)
+{
+    ChartTexts texts;
+    texts.title = options.title;
+    texts.xCaption = options.x.caption;
+    texts.yCaption = options.y.caption;
+    if (options.showLegend && (names.size() > 1 || !options.legend.isEmpty()))
+        texts.legend = names;
+    texts.xMarks = x.marks();
+    texts.yMarks = y.marks();
+    return texts;
+}
+
+} // namespace
+
+Drawing Drawing::of(const std::vector<Series>& series, const Options& options)
+{
+    const AxisView x(xDivision(series, options), quantityOf(options.x), options.x.reference);
+    const AxisView y(yDivision(series, x, options), quantityOf(options.y), options.y.reference);
+    Chart chart = {textsOf(x, y, curveNames(series, options), options), x, y, {}};
+    const Look look = options.isDark ? Look::dark() : Look::light();
+    const ChartLayout layout =
+        ChartLayout::of(options.size, chart.texts, charting::FontMeasure(look));
+    for (const Series& one : series)
+        chart.curves.append(curveOf(one, chart, layout.plot.width(), options));
+    return {look, chart, layout};
+}
+
+} // namespace hosts::chart

@@ -1,0 +1,27 @@
+#ifndef HOSTS_KESTRANE_CHART_DRAWING_H
+#define HOSTS_KESTRANE_CHART_DRAWING_H
+
+#include "hosts/charting/Chart.h"
+#include "hosts/charting/ChartLayout.h"
+#include "hosts/charting/Look.h"
+#include "hosts/data/Series.h"
+#include "hosts/kestrane-chart/Options.h"
+
+#include <vector>
+
+namespace hosts::chart {
+
+/// A chart of some series, with its look and its layout: all that painting needs.
+struct Drawing
+{
+    /// @throws WorkError if there is nothing to draw in the range that @p options ask for
+    static Drawing of(const std::vector<data::Series>& series, const Options& options);
+
+    charting::Look look;
+    charting::Chart chart;
+    charting::ChartLayout layout;
+};
+
+} // namespace hosts::chart
+
+#endif
