@@ -2,6 +2,7 @@
 #include "kestrane/axes/FixedPositionLinearAxis.h"
 #include "kestrane/axes/LinearAxis.h"
 
+#include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
 
 #include <QMetaMethod>
@@ -15,11 +16,10 @@ using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::FixedPositionLinearAxis;
 using pelorin::ui::chart::LinearAxis;
 using testing::ElementsAre;
+using tests::NaN;
 using tests::SignalLog;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 // Opens what Axis keeps for its subclasses.
 class OpenAxis : public FixedPositionLinearAxis
@@ -91,7 +91,7 @@ TEST(AxisTickTest, OnlyValidTicksAtTheSamePlaceAreEqual)
 
     EXPECT_TRUE(tick == Axis::Tick(99.0, 0.5, 0.0, {}, false));
     EXPECT_FALSE(tick == Axis::Tick(1.0, std::nextafter(0.5, 1.0), 7.0, {2.0}, true));
-    EXPECT_FALSE(Axis::Tick(1.0, nan, 0.0, {}, false) == Axis::Tick(1.0, nan, 0.0, {}, false));
+    EXPECT_FALSE(Axis::Tick(1.0, NaN, 0.0, {}, false) == Axis::Tick(1.0, NaN, 0.0, {}, false));
 
     const Axis::Tick invalid;
     EXPECT_FALSE(invalid == invalid);
@@ -159,7 +159,7 @@ TEST(AxisRankingTest, ShortListsAndPresetRanks)
 
     QVector<Axis::Tick> preset = unrankedTicks(3);
     preset[1].setRank(2500.0);
-    preset[2].setRank(nan);
+    preset[2].setRank(NaN);
     axis.updateRanking(preset, true);
     EXPECT_THAT(logicalPositions(preset), ElementsAre(1, 0, 2));
     EXPECT_EQ(preset.first().rank(), 4000.0);

@@ -1,6 +1,7 @@
 #include "kestrane/axes/FixedPositionLinearAxis.h"
 #include "kestrane/axes/LinearAxis.h"
 
+#include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
 
 #include <gtest/gtest.h>
@@ -12,12 +13,11 @@
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::FixedPositionLinearAxis;
 using pelorin::ui::chart::LinearAxis;
+using tests::Infinity;
+using tests::NaN;
 using tests::SignalLog;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 // 90 to 110, the value 100 in the middle.
 std::unique_ptr<FixedPositionLinearAxis> centredAxis(bool offsetIsAdded = false)
@@ -59,14 +59,14 @@ TEST(FixedPositionLinearAxisTest, MapsValuesToPositionsAndBack)
 TEST(FixedPositionLinearAxisTest, OddNumbersTravelOn)
 {
     for (const Axis::ScaleMode mode : {Axis::Linear, Axis::Logarithmic}) {
-        EXPECT_TRUE(std::isnan(centredAxis()->transform(mode, nan)));
-        EXPECT_TRUE(std::isnan(centredAxis()->inverseTransform(mode, nan)));
+        EXPECT_TRUE(std::isnan(centredAxis()->transform(mode, NaN)));
+        EXPECT_TRUE(std::isnan(centredAxis()->inverseTransform(mode, NaN)));
     }
-    EXPECT_EQ(FixedPositionLinearAxis().inverseTransform(Axis::Logarithmic, 0.0), -infinity);
-    EXPECT_EQ(FixedPositionLinearAxis().transform(Axis::Linear, infinity), infinity);
+    EXPECT_EQ(FixedPositionLinearAxis().inverseTransform(Axis::Logarithmic, 0.0), -Infinity);
+    EXPECT_EQ(FixedPositionLinearAxis().transform(Axis::Linear, Infinity), Infinity);
 
     const FixedPositionLinearAxis empty(0.0);
-    EXPECT_EQ(empty.transform(Axis::Linear, 1.0), infinity);
+    EXPECT_EQ(empty.transform(Axis::Linear, 1.0), Infinity);
     EXPECT_TRUE(std::isnan(empty.transform(Axis::Linear, 0.0)));
 
     const FixedPositionLinearAxis reversed(-1.0);
@@ -74,7 +74,7 @@ TEST(FixedPositionLinearAxisTest, OddNumbersTravelOn)
     EXPECT_EQ(reversed.maxValue(), -10.0);
     EXPECT_EQ(reversed.transform(Axis::Linear, -5.0), 0.5);
     EXPECT_EQ(FixedPositionLinearAxis(1.0, 0.0, 0.0, false, 10, 0).smallestTickDistance(false),
-              infinity);
+              Infinity);
 }
 
 TEST(FixedPositionLinearAxisTest, TicksStandStillWhateverTheValues)
@@ -124,7 +124,7 @@ TEST(FixedPositionLinearAxisTest, EqualAxesHaveTheSameParametersWhateverTheirTic
     EXPECT_TRUE(*axis !=
                 FixedPositionLinearAxis(2.0, std::nextafter(100.0, 101.0), 0.5, false, 10, 5));
     EXPECT_TRUE(*axis != FixedPositionLinearAxis(2.0, 100.0, 0.5, false, 10, 4));
-    const FixedPositionLinearAxis unknown(nan);
+    const FixedPositionLinearAxis unknown(NaN);
     EXPECT_TRUE(unknown != unknown);
 
     QObject parent;
@@ -178,7 +178,7 @@ TEST(FixedPositionLinearAxisTest, SettersIgnoreWhatIsEqualWithinRounding)
 
     axis->setOffset(100.0 * (1.0 + 1e-13));
     axis->setScale(2.0);
-    axis->setAnchor(nan);
+    axis->setAnchor(NaN);
     axis->setNumMajorDivisions(10);
     axis->setNumMinorDivisions(5);
     axis->setOffsetIsAdded(false);
@@ -199,11 +199,11 @@ TEST(FixedPositionLinearAxisTest, OnlySettingBothCanStoreAndReplaceNaN)
     const QStringList tail{"ticksUpdated()", "parametersChanged(self)"};
     const QStringList unknownLimits{"minValueChanged(nan)", "maxValueChanged(nan)"};
 
-    axis->setOffsetAndScale(nan, 2.0);
+    axis->setOffsetAndScale(NaN, 2.0);
     EXPECT_EQ(log.take(), QStringList{"offsetChanged(nan)"} + unknownLimits + tail);
     axis->setOffset(3.0);
     EXPECT_EQ(log.take(), QStringList());
-    axis->setOffsetAndScale(nan, 2.0); // NaN limits differ from themselves.
+    axis->setOffsetAndScale(NaN, 2.0); // NaN limits differ from themselves.
     EXPECT_EQ(log.take(), unknownLimits + tail);
     axis->setOffsetAndScale(100.0, 2.0);
     EXPECT_EQ(log.take().first(), "offsetChanged(100)");

@@ -1,6 +1,7 @@
 #include "kestrane/axes/FixedPositionLinearAxis.h"
 #include "kestrane/axes/LinearAxis.h"
 
+#include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
 
 #include <boost/make_shared.hpp>
@@ -11,13 +12,13 @@
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::FixedPositionLinearAxis;
 using pelorin::ui::chart::LinearAxis;
+using tests::Highest;
+using tests::Lowest;
+using tests::NaN;
 using tests::SignalLog;
 
 namespace {
 
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double lowest = std::numeric_limits<double>::lowest();
-constexpr double highest = std::numeric_limits<double>::max();
 const boost::shared_ptr<const Axis::ScrollScaleState> noBase;
 
 // 90 to 110, the value 100 in the middle.
@@ -53,11 +54,11 @@ TEST_F(LinearGesturesTest, ScrollingStopsAtTheLimitsAndTheTopOneWins)
     EXPECT_EQ(axis.maxValue(), 120.0);
     axis.scrollAxis(0.0, 0.0, noBase, 100.0, 110.0);
     EXPECT_EQ(axis.maxValue(), 110.0);
-    axis.scrollAxis(0.0, nan, noBase, 95.0, 120.0); // What isn't greater gives way to the limit.
+    axis.scrollAxis(0.0, NaN, noBase, 95.0, 120.0); // What isn't greater gives way to the limit.
     EXPECT_EQ(axis.minValue(), 95.0);
-    axis.scrollAxis(0.0, 0.1, noBase, nan, 120.0);
-    EXPECT_EQ(axis.maxValue(), 115.0 + 2.0);
-    axis.scrollAxis(0.0, 0.1, noBase, 95.0, nan);
+    axis.scrollAxis(0.0, 0.1, noBase, NaN, 120.0); // To NaN first, and so on to the top limit.
+    EXPECT_EQ(axis.maxValue(), 120.0);
+    axis.scrollAxis(0.0, 0.1, noBase, 95.0, NaN);
     EXPECT_TRUE(std::isnan(axis.offset()));
 }
 
@@ -98,17 +99,18 @@ TEST_F(LinearGesturesTest, ScalingWidensTheRangeAroundTheAnchor)
 TEST_F(LinearGesturesTest, ScalingIsBoundByThePixelAndTheTopLimit)
 {
     const auto base = axis.scrollScaleState();
-    axis.scaleAxis(0.5, 0.5, base, lowest, highest, 0.125);
+    axis.scaleAxis(0.5, 0.5, base, Lowest, Highest, 0.125);
     EXPECT_EQ(axis.scale(), 8.0);
-    axis.scaleAxis(0.5, nan, base, lowest, highest, 0.25);
+    axis.scaleAxis(0.5, NaN, base, Lowest, Highest, 0.25);
     EXPECT_EQ(axis.scale(), 4.0);
     EXPECT_EQ(axis.minValue(), 80.0);
-    axis.scaleAxis(0.5, 0.4, base, lowest, 130.0); // (130 - 80) / 10 from the axis as it is now.
+    axis.scaleAxis(0.5, 0.4, base, Lowest, 130.0); // (130 - 80) / 10 from the axis as it is now.
     EXPECT_EQ(axis.scale(), 5.0);
     axis.scaleAxis(0.0, 0.1, base);
     EXPECT_EQ(axis.scale(), 0.0);
-    axis.scaleAxis(nan, 0.0, base);
-    EXPECT_EQ(axis.scale(), (highest - axis.minValue()) / 10) << "NaN gives way to the limit";
+    const double largest = (Highest - axis.minValue()) / 10;
+    axis.scaleAxis(NaN, 0.0, base); // What isn't below the limit gives way to it.
+    EXPECT_EQ(axis.scale(), largest);
 }
 
 TEST_F(LinearGesturesTest, GestureCountsFromItsBaseHoweverOftenItIsCalled)

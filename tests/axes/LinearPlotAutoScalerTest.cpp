@@ -1,6 +1,8 @@
 #include "kestrane/axes/LinearPlotAutoScaler.h"
 #include "kestrane/axes/LinearAxis.h"
 
+#include "tests/support/Numbers.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,10 +11,9 @@
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::LinearAxis;
 using pelorin::ui::chart::LinearPlotAutoScaler;
+using tests::NaN;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 struct Data
 {
@@ -51,8 +52,8 @@ TEST(LinearPlotAutoScalerTest, MovesDataThatLeaveTheBandAndRoundsTheScaleUp)
         {{2.0,    3.0,   1.0,   0.2,   false, false},  2.0,   15.0},
         {{0.2,    0.25,  1.0,   0.1,   false, false},  0.07,   1.9},
         {{0.5,    0.5,   1.0,   0.1,   false, false},  2e-9,   5.0},
-        {{nan,    0.6,   1.0,   0.1,   false, true},   1.0,    0.0},
-        {{0.4,    nan,   1.0,   0.1,   false, true},   1.0,    0.0},
+        {{NaN,    0.6,   1.0,   0.1,   false, true},   1.0,    0.0},
+        {{0.4,    NaN,   1.0,   0.1,   false, true},   1.0,    0.0},
     };
     // clang-format on
     for (const Row& row : rows) {
@@ -60,7 +61,7 @@ TEST(LinearPlotAutoScalerTest, MovesDataThatLeaveTheBandAndRoundsTheScaleUp)
         EXPECT_NEAR(suggest(row.data).scale, row.scale, 1e-15);
         EXPECT_NEAR(suggest(row.data).offset, row.offset, 1e-7);
     }
-    EXPECT_TRUE(std::isnan(suggest({0.6, 1.0, nan}).scale));
+    EXPECT_TRUE(std::isnan(suggest({0.6, 1.0, NaN}).scale));
 }
 
 TEST(LinearPlotAutoScalerTest, NoBandFallsBackToTheFloor)
@@ -71,7 +72,7 @@ TEST(LinearPlotAutoScalerTest, NoBandFallsBackToTheFloor)
     EXPECT_EQ(suggestion.scale, std::ceil(1e-9 / std::pow(10.0, -9)) * std::pow(10.0, -9));
 
     const auto unknown =
-        LinearPlotAutoScaler::suggest(1.0, 0.0, 0.2, 0.21, 10, 0.9, 0.1, 0.1, nan, false, true);
+        LinearPlotAutoScaler::suggest(1.0, 0.0, 0.2, 0.21, 10, 0.9, 0.1, 0.1, NaN, false, true);
     EXPECT_EQ(unknown.scale, 1.0);
 }
 

@@ -4,6 +4,7 @@
 #include "kestrane/backend/Singleton.h"
 #include "kestrane/backend/TranslationManager.h"
 
+#include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
 
 #include <QLocale>
@@ -18,11 +19,10 @@ using pelorin::ui::chart::TickFormatter;
 using pelorin::utilities::Singleton;
 using pelorin::utilities::TranslationManager;
 using pelorin::utilities::ValueFormatter;
+using tests::NaN;
 using tests::SignalLog;
 
 namespace {
-
-constexpr double absolute = std::numeric_limits<double>::quiet_NaN();
 
 // Writes down what it is asked to format, and with which options.
 class RecordingFormatter : public TickFormatter
@@ -55,12 +55,12 @@ TEST_F(TickFormatterTest, OneLineForEachValueOfATick)
     const Axis::Tick plain(101.5, 0.5, 0.0, {}, false);
     const Axis::Tick joint(101.5, 0.5, 0.0, {-3.0, 100.0}, false);
 
-    EXPECT_EQ(formatter.formatTick(plain, absolute), QList<QString>({"101.5"}));
+    EXPECT_EQ(formatter.formatTick(plain, NaN), QList<QString>({"101.5"}));
     EXPECT_EQ(formatter.formatTick(plain, 100.0), QList<QString>({"1.5 signed"}));
-    EXPECT_EQ(formatter.formatTick(joint, absolute), QList<QString>({"101.5", "-3", "100"}));
+    EXPECT_EQ(formatter.formatTick(joint, NaN), QList<QString>({"101.5", "-3", "100"}));
     EXPECT_EQ(formatter.formatTick(joint, 100.0),
               QList<QString>({"1.5 signed", "-103 signed", "0 signed"}));
-    EXPECT_EQ(formatter.formatTick(Axis::Tick(absolute, 0.5, 0.0, {}, false), absolute),
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(NaN, 0.5, 0.0, {}, false), NaN),
               QList<QString>({"nan"}));
     for (const int type : formatter.types)
         EXPECT_EQ(type, int(QMetaType::Double));
@@ -69,15 +69,15 @@ TEST_F(TickFormatterTest, OneLineForEachValueOfATick)
 TEST_F(TickFormatterTest, LabelsHaveUnitSignAndLanguage)
 {
     TickFormatter formatter;
-    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), absolute),
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), NaN),
               QList<QString>({"0.0015"}));
     formatter.setQuantity("voltage");
-    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), absolute),
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), NaN),
               QList<QString>({"1.5 mV"}));
     EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), 0.001),
               QList<QString>({"+500 \u00b5V"}));
     translations.setLocale("de_DE");
-    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), absolute),
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(0.0015, 0.5, 0.0, {}, false), NaN),
               QList<QString>({"1,5 mV"}));
 }
 

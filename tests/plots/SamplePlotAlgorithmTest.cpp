@@ -1,6 +1,7 @@
 #include "kestrane/plots/SamplePlotAlgorithm.h"
 
 #include "tests/support/Builders.h"
+#include "tests/support/Numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -16,13 +17,12 @@ using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::SamplePlotAlgorithm;
 using tests::exact;
 using tests::linearAxis;
+using tests::NaN;
 using tests::Points;
 using tests::segment;
 using tests::snapshot;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 struct Plot
 {
@@ -70,7 +70,8 @@ TEST(SamplePlotAlgorithmTest, OneSampleAColumnGivesTheSamples)
 
 TEST(SamplePlotAlgorithmTest, SparseSamplesGiveASmoothCurveWithSymbols)
 {
-    const Plot plot = plotOf(snapshot({segment({0.0, 1.0, 0.0}, 0.0, 4.0)}), linearAxis(8.0), 0.125);
+    const Plot plot =
+        plotOf(snapshot({segment({0.0, 1.0, 0.0}, 0.0, 4.0)}), linearAxis(8.0), 0.125);
     ASSERT_EQ(plot.polylines.size(), 1u);
     expectNear(plot.polylines[0],
                {{0.0625, 0.0},
@@ -105,7 +106,7 @@ TEST(SamplePlotAlgorithmTest, SymbolsShowWhereSamplesAreFurtherApartThanTheSpaci
     const double justBelow = std::nextafter(1.0, 0.0);
     EXPECT_TRUE(plotOf(data, linearAxis(8.0), 0.125, 1.0).symbols.empty());
     EXPECT_EQ(plotOf(data, linearAxis(8.0), 0.125, justBelow).symbols.at(0).size(), 9u);
-    EXPECT_TRUE(plotOf(data, linearAxis(8.0), 0.125, nan).symbols.empty());
+    EXPECT_TRUE(plotOf(data, linearAxis(8.0), 0.125, NaN).symbols.empty());
 }
 
 TEST(SamplePlotAlgorithmTest, SamplesLeftOfTheAxisAreSkippedAndThoseRightOfItNotVisited)
@@ -152,15 +153,23 @@ TEST(SamplePlotAlgorithmTest, SegmentsStayApart)
 TEST(SamplePlotAlgorithmTest, FormsOfTheSegmentGoToTheAxes)
 {
     // Abscissae 10^0, 10^0.25 ... 10^1 and values 10^-2 ... 10^0, both given as logarithms.
-    const Plot plot = plotOf(snapshot({segment({-2.0, -1.5, -1.0, -0.5, 0.0}, 0.0, 0.25,
-                                               Axis::Logarithmic, Axis::Logarithmic)}),
-                             linearAxis(10.0), 0.1, 0.1);
-    EXPECT_TRUE(plot.symbols.empty()) << "a step of 0.25 is less than 0.1 of the plain axis";
+    const PlotSnapshot data = snapshot(
+        {segment({-2.0, -1.5, -1.0, -0.5, 0.0}, 0.0, 0.25, Axis::Logarithmic, Axis::Logarithmic)});
+    const Plot plot = plotOf(data, linearAxis(10.0), 0.1, 0.3);
     ASSERT_EQ(plot.polylines.size(), 1u);
+    double centre = 0.0;
     for (const auto& point : plot.polylines[0]) {
-        const double edge = point.first - 0.05; // value = 10^(2 log10 x - 2) = (x / 10)^2
-        EXPECT_NEAR(point.second, edge * edge, 0.02) << edge;
+        if (point.first == centre)
+            continue; // Only the first point of a column lies on the curve.
+        centre = point.first;
+        const double edge = centre - 0.05; // value = 10^(2 log10 x - 2) = (x / 10)^2
+        EXPECT_NEAR(point.second, edge * edge, 1e-12) << edge;
     }
+    EXPECT_NEAR(centre, 1.05, 1e-12) << "one column past the end";
+
+    // The step 0.25 is held against columns as plain values, whatever its form.
+    EXPECT_TRUE(plot.symbols.empty());
+    EXPECT_EQ(plotOf(data, linearAxis(10.0), 0.1, 0.2).symbols.at(0).size(), 5u);
 }
 
 TEST(SamplePlotAlgorithmTest, ASecondCallBuildsNothingNewAndGivesTheSame)

@@ -2,6 +2,7 @@
 #include "kestrane/plots/SplineAlgorithm.h"
 
 #include "tests/support/Builders.h"
+#include "tests/support/Numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -15,15 +16,14 @@ using pelorin::backend::SampleIterator;
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::SamplePlotAlgorithm;
 using tests::exact;
+using tests::Infinity;
 using tests::linearAxis;
+using tests::NaN;
 using tests::Points;
 using tests::segment;
 using tests::snapshot;
 
 namespace {
-
-constexpr double nan = std::numeric_limits<double>::quiet_NaN();
-constexpr double infinity = std::numeric_limits<double>::infinity();
 
 struct Plot
 {
@@ -48,8 +48,7 @@ public:
     Constant(double value, int answers)
         : m_value(value)
         , m_answers(answers)
-    {
-    }
+    {}
 
     double operator[](const double&) override
     {
@@ -75,7 +74,7 @@ PlotSegment withSubsampler(const PlotSegment& segment, double value, int answers
 TEST(SamplePlotEdgesTest, ArgumentsThatLeaveNothingToDraw)
 {
     const PlotSnapshot data = snapshot({segment({0.1, 0.2, 0.3})});
-    for (const double width : {0.0, -0.0, -0.125, -infinity, 1e-17, 1e-300}) {
+    for (const double width : {0.0, -0.0, -0.125, -Infinity, 1e-17, 1e-300}) {
         EXPECT_TRUE(plotOf(data, width).polylines.empty()) << width;
         EXPECT_TRUE(plotOf(data, width).symbols.empty()) << width;
     }
@@ -87,16 +86,16 @@ TEST(SamplePlotEdgesTest, ArgumentsThatLeaveNothingToDraw)
 
 TEST(SamplePlotEdgesTest, ColumnWidthsThatAreNoNumberMakeOneColumn)
 {
-    const Plot unknown = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), nan);
+    const Plot unknown = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), NaN);
     ASSERT_EQ(unknown.polylines.size(), 1u);
     ASSERT_EQ(unknown.polylines[0].size(), 3u); // Curve, minimum, maximum.
     EXPECT_TRUE(std::isnan(unknown.polylines[0][0].first));
     EXPECT_EQ(unknown.polylines[0][1].second, 0.25);
     EXPECT_TRUE(unknown.symbols.empty());
 
-    const Plot endless = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), infinity);
+    const Plot endless = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), Infinity);
     ASSERT_EQ(endless.polylines.size(), 1u);
-    EXPECT_EQ(endless.polylines[0], (Points{{infinity, 0.5}, {infinity, 0.25}, {infinity, 0.75}}));
+    EXPECT_EQ(endless.polylines[0], (Points{{Infinity, 0.5}, {Infinity, 0.25}, {Infinity, 0.75}}));
 }
 
 TEST(SamplePlotEdgesTest, ALoneSampleIsASymbol)
@@ -122,7 +121,7 @@ TEST(SamplePlotEdgesTest, ALonePointIsJoinedByTheNextColumnOrByItself)
     const Plot joined = plotOf(snapshot({withSubsampler(pair, 0.75)}));
     EXPECT_EQ(joined.polylines, (std::vector<Points>{{{0.0625, 0.5}, {0.1875, 0.75}}}));
 
-    const Plot doubled = plotOf(snapshot({withSubsampler(pair, nan)}));
+    const Plot doubled = plotOf(snapshot({withSubsampler(pair, NaN)}));
     EXPECT_EQ(doubled.polylines, (std::vector<Points>{{{0.0625, 0.5}, {0.0625, 0.5}}}));
 }
 
@@ -144,15 +143,16 @@ TEST(SamplePlotEdgesTest, DataOutsideTheAxis)
     const Plot left = plotOf(snapshot({segment({0.1, 0.2, 0.3}, -9.0)}));
     EXPECT_TRUE(left.polylines.empty() && left.symbols.empty());
 
-    // 1.0 lies inside a column of 0.3: the walk starts and takes the first sample.
+    // 1.0 lies inside a column of 0.3: the walk starts, and the second sample ends it.
     const Plot inLastColumn = plotOf(snapshot({segment({0.1, 0.2, 0.3}, 9.0)}), 0.3, 0.25);
-    EXPECT_EQ(inLastColumn.symbols.at(0), (Points{{1.125, 0.1}}));
+    EXPECT_EQ(inLastColumn.symbols.at(0), (Points{{1.125, 0.1}, {1.25, 0.2}}));
 }
 
 TEST(SamplePlotEdgesTest, ColumnsOutliveTheirSegment)
 {
     // The first segment leaves the walk at column 0.25; a segment without samples doesn't move it.
-    const Plot plot = plotOf(snapshot({segment({0.1, 0.2, 0.3}), withSubsampler(segment({}), 0.5)}));
+    const Plot plot =
+        plotOf(snapshot({segment({0.1, 0.2, 0.3}), withSubsampler(segment({}), 0.5)}));
     ASSERT_EQ(plot.polylines.size(), 2u);
     EXPECT_EQ(plot.polylines[1], (Points{{0.3125, 0.5}, {0.4375, 0.5}}));
 }
@@ -165,20 +165,20 @@ TEST(SamplePlotEdgesTest, SamplesWithoutAPositionArePassedOver)
         using LinearAxis::LinearAxis;
         double transform(ScaleMode mode, double value) const override
         {
-            return value == 1.0 ? nan : LinearAxis::transform(mode, value);
+            return value == 1.0 ? NaN : LinearAxis::transform(mode, value);
         }
     };
     const Plot plot = plotOf(snapshot({segment({0.1, 0.9, 0.3, 0.4})}), 0.125, 0.5,
                              QSharedPointer<Holed>::create(8.0, 0.0, 0.0, false, 1));
     EXPECT_EQ(plot.symbols, (std::vector<Points>{{{0.0, 0.1}, {0.25, 0.3}, {0.375, 0.4}}}));
 
-    const Plot noY = plotOf(snapshot({withSubsampler(segment({0.1, nan, 0.3}), 0.2)}));
+    const Plot noY = plotOf(snapshot({withSubsampler(segment({0.1, NaN, 0.3}), 0.2)}));
     EXPECT_EQ(noY.symbols, (std::vector<Points>{{{0.0, 0.1}, {0.25, 0.3}}}));
-    EXPECT_EQ(noY.polylines, (std::vector<Points>{
-                                 {{0.0625, 0.2}, {0.0625, 0.1}, {0.1875, 0.2}, {0.3125, 0.2},
-                                  {0.3125, 0.3}}}));
+    EXPECT_EQ(noY.polylines,
+              (std::vector<Points>{
+                  {{0.0625, 0.2}, {0.0625, 0.1}, {0.1875, 0.2}, {0.3125, 0.2}, {0.3125, 0.3}}}));
 
-    EXPECT_TRUE(plotOf(snapshot({segment({0.1, nan, 0.3})})).polylines.empty())
+    EXPECT_TRUE(plotOf(snapshot({segment({0.1, NaN, 0.3})})).polylines.empty())
         << "the spline of such a segment knows nothing";
 }
 
@@ -211,12 +211,13 @@ TEST(SamplePlotEdgesTest, ASubclassOfTheSplineMayAnswerWhereTheSplineDoesNot)
 TEST(SamplePlotEdgesTest, UnusableStepsAndOffsetsEndTheWalk)
 {
     const std::vector<double> samples{0.1, 0.2, 0.3};
-    for (const double offset : {nan, infinity, -infinity, 1e300, -1e300}) {
-        for (const double step : {1.0, 1e-300, -1.0, nan, infinity}) {
+    for (const double offset : {NaN, Infinity, -Infinity, 1e300, -1e300}) {
+        for (const double step : {1.0, 1e-300, -1.0, NaN, Infinity}) {
             const Plot plot = plotOf(snapshot({segment(samples, offset, step)}));
             EXPECT_LE(plot.polylines.size(), 1u) << offset << ' ' << step;
         }
     }
-    // An infinite offset gives a skip that no integer holds: it counts as none.
-    EXPECT_TRUE(plotOf(snapshot({segment(samples, 0.0, 1e-320)})).polylines.empty());
+    // The number of samples to skip is more than an integer holds: it counts as none.
+    const Plot tiny = plotOf(snapshot({segment(samples, -1.0, 1e-320)}), 0.125, -1.0);
+    EXPECT_EQ(tiny.symbols, (std::vector<Points>{{{-0.125, 0.1}, {-0.125, 0.2}, {-0.125, 0.3}}}));
 }

@@ -1,6 +1,8 @@
 #ifndef TESTS_SUPPORT_SIGNALLOG_H
 #define TESTS_SUPPORT_SIGNALLOG_H
 
+#include "tests/support/QtPrinters.h"
+
 #include <QObject>
 #include <QStringList>
 
