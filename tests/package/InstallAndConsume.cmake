@@ -1,0 +1,35 @@
+function(run)
+  execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE result)
+  if(NOT result EQUAL 0)
+    list(JOIN ARGN " " command)
+    message(FATAL_ERROR "${command}\n${output}")
+  endif()
+  set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+# Installed to one place and used from another: nothing may remember where it was.
+set(installed "${WORK_DIR}/installed")
+set(prefix "${WORK_DIR}/moved")
+set(consumer "${WORK_DIR}/consumer")
+file(REMOVE_RECURSE "${installed}" "${prefix}" "${consumer}")
+run(${CMAKE_COMMAND} --install "${BUILD_DIR}" --prefix "${installed}" --config "${CONFIG}")
+file(RENAME "${installed}" "${prefix}")
+
+set(flags)
+if(SANITIZE)
+  set(flags "-DCMAKE_CXX_FLAGS=-fsanitize=${SANITIZE}")
+endif()
+run(${CMAKE_COMMAND} -S "${CONSUMER_DIR}" -B "${consumer}" -G "${GENERATOR}"
+  "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${CXX_COMPILER}"
+  "-DCMAKE_BUILD_TYPE=${CONFIG}" ${flags})
+run(${CMAKE_COMMAND} --build "${consumer}" --config "${CONFIG}")
+run("${consumer}/first-chart")
+
+set(expected "0.05 0\n0.15 0.5")
+if(NOT output MATCHES "^${expected}")
+  message(FATAL_ERROR "The program printed:\n${output}\nand not first:\n${expected}")
+endif()
+file(GLOB_RECURSE private_headers "${prefix}/include/*detail*")
+if(private_headers)
+  message(FATAL_ERROR "Private headers are installed: ${private_headers}")
+endif()
