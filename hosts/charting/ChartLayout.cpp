@@ -82,7 +82,7 @@ double LayoutWork::rightMargin(const ChartTexts& texts, double left) const
     double margin = edge;
     const double room = m_layout.size.width() - left;
     for (const TickMark& mark : texts.xMarks) {
-        const double half = labelSize(mark.label).width() / 2.0 + breathing;
+        const double half = labelSize(mark.label).width() / 2.0 + edge / 2.0;
         if (mark.place > 0.5)
             margin = std::max(margin, (half - (1.0 - mark.place) * room) / mark.place);
     }

@@ -1,5 +1,6 @@
 #include "hosts/charting/ChartPainter.h"
 
+#include "hosts/charting/ColumnOrder.h"
 #include "hosts/charting/PolylineClipper.h"
 
 #include <QLineF>
@@ -121,8 +122,8 @@ void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
     for (const QVector<QPointF>& polyline : curve.polylines) {
-        QVector<QPointF> points(polyline.size());
-        std::transform(polyline.cbegin(), polyline.cend(), points.begin(), toPicture);
+        QVector<QPointF> points = inColumnOrder(polyline);
+        std::transform(points.cbegin(), points.cend(), points.begin(), toPicture);
         m_painter.setPen(pen);
         m_painter.setBrush(Qt::NoBrush);
         for (const QVector<QPointF>& piece : clipPolyline(points, layout.plot))

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <iostream>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -42,9 +43,22 @@ Pictures
 Exit status: 0 done; 1 it could not be done; 2 wrong usage. A picture is written whole or not at all.
 
 Examples
-  kestrane-chart ecg.csv --step 0.00277778 --x-quantity time -o ecg.png
+  kestrane-chart ecg.csv --step 0.0027777778 --x-quantity time --y-unit mV -o ecg.png
   kestrane-chart eeg.csv --column Fz --column Cz --from 2 --to 4 --look dark -o eeg.svg
   kestrane-chart voice.flac --x-quantity time --title Voice --dpi 192 -o voice.png)";
+
+// Says of an option only what to write behind it; the rest is in its description.
+class HelpFormatter : public CLI::Formatter
+{
+public:
+    HelpFormatter() { column_width(30); }
+
+    std::string make_option_opts(const CLI::Option* option) const override
+    {
+        const std::string type = option->get_type_name();
+        return type.empty() ? type : ' ' + type.substr(0, type.find(':'));
+    }
+};
 
 // As the options stand on the command line, before they are checked and put in order.
 struct RawOptions
@@ -87,7 +101,6 @@ void addDataOptions(CLI::App& app, RawOptions& raw)
               ->type_name("NAME"));
     group(app.add_option("--channel", raw.channels, "Channel of a sound to draw; repeatable")
               ->allow_extra_args(false)
-              ->check(CLI::PositiveNumber)
               ->type_name("N"));
     group(app.add_option("--time-column", raw.timeColumn,
                          "Column with the x values, or 'none' to count the rows")
@@ -122,7 +135,8 @@ void addAxisOptions(CLI::App& app, RawOptions& raw)
     add("--y-unit", raw.yUnit, "TEXT", "Unit of y")->excludes("--y-quantity");
     add("--x-relative", raw.xReference, "VALUE", "Label x by the distance from this value");
     add("--y-relative", raw.yReference, "VALUE", "Label y by the distance from this value");
-    add("--ticks", raw.ticks, "moving|fixed", "Ticks on round values, or at fixed places")
+    add("--ticks", raw.ticks, "WHERE",
+        "moving: ticks on round values, the default; fixed: at fixed places")
         ->check(CLI::IsMember({"moving", "fixed"}));
 }
 
@@ -138,17 +152,20 @@ void addPictureOptions(CLI::App& app, RawOptions& raw)
     app.add_flag("--no-legend", raw.noLegend, "No legend; else there is one for several curves")
         ->group("Picture");
     add("--symbols", raw.symbols, "N", "Mark samples that are at least N pixels apart, default 8");
-    add("--look", raw.look, "light|dark", "Colours")->check(CLI::IsMember({"light", "dark"}));
+    add("--look", raw.look, "WHICH", "light, the default, or dark")
+        ->check(CLI::IsMember({"light", "dark"}));
     add("--size", raw.size, "WxH", "Size in pixels at 96 dpi, default 1000x600");
     add("--dpi", raw.dpi, "N", "Pixels in an inch, default 96");
 }
 
 void addOptions(CLI::App& app, RawOptions& raw)
 {
-    app.get_formatter()->column_width(34);
+    app.formatter(std::make_shared<HelpFormatter>());
     app.set_version_flag("--version", "kestrane-chart " KESTRANE_VERSION)->group("Other");
     app.set_help_flag("-h,--help", "Print this help and leave")->group("Other");
-    app.add_option("INPUT", raw.inputs, "Recordings to draw into one chart")->required();
+    app.add_option("INPUT", raw.inputs, "Recordings to draw into one chart")
+        ->required()
+        ->type_name("...");
     addPictureOptions(app, raw);
     addDataOptions(app, raw);
     addRangeOptions(app, raw);
@@ -156,7 +173,7 @@ void addOptions(CLI::App& app, RawOptions& raw)
     app.footer(footer);
 }
 
-void checkFinite(const RawOptions& raw)
+void checkNumbers(const RawOptions& raw)
 {
     const std::map<const char*, std::optional<double>> numbers = {
         {"--start", raw.start},    {"--step", raw.step}, {"--from", raw.from},
@@ -169,6 +186,10 @@ void checkFinite(const RawOptions& raw)
     }
     if (raw.step && !(*raw.step > 0.0))
         throw UsageError(QStringLiteral("--step: must be greater than 0"));
+    for (const int channel : raw.channels) {
+        if (channel < 1)
+            throw UsageError(QStringLiteral("--channel %1: they count from 1").arg(channel));
+    }
     if (raw.symbols < 0.0)
         throw UsageError(QStringLiteral("--symbols: must not be negative"));
 }
@@ -250,7 +271,7 @@ AxisOptions axisOptionsOf(const std::string& caption, const std::string& quantit
 
 Options optionsOf(const RawOptions& raw)
 {
-    checkFinite(raw);
+    checkNumbers(raw);
     checkQuantity(raw.xQuantity);
     checkQuantity(raw.yQuantity);
     Options options;

@@ -3,6 +3,7 @@
 #include "hosts/charting/AutoRange.h"
 #include "hosts/charting/FontMeasure.h"
 #include "hosts/kestrane-chart/Extent.h"
+#include "hosts/kestrane-chart/UsageError.h"
 #include "hosts/kestrane-chart/WorkError.h"
 
 #include <kestrane/backend/QuantityManager.h>
@@ -57,16 +58,17 @@ AxisDivision xDivision(const std::vector<Series>& series, const Options& options
     const std::optional<Extent> data = Extent::ofAbscissas(series);
     if (!data)
         throw WorkError(QStringLiteral("there are no samples to draw"));
-    const int wanted = divisionsIn(options.size.width(), pixelsPerXDivision);
     const auto spread = AxisDivision::spread(data->low, data->high);
-    const auto rounded = AxisDivision::rounded(options.x.from.value_or(spread.first),
-                                               options.x.to.value_or(spread.second), wanted);
+    const double least = options.x.from.value_or(spread.first);
+    const double most = options.x.to.value_or(spread.second);
+    if (least > data->high || most < data->low || !AxisDivision::isUsableRange(least, most))
+        throw WorkError(
+            QStringLiteral("there is nothing from x = %1 to %2: the data go from %3 to %4")
+                .arg(number(least), number(most), number(data->low), number(data->high)));
+    const int wanted = divisionsIn(options.size.width(), pixelsPerXDivision);
+    const auto rounded = AxisDivision::rounded(least, most, wanted);
     const double from = options.x.from.value_or(rounded.first);
     const double to = options.x.to.value_or(rounded.second);
-    if (from > data->high || to < data->low || !AxisDivision::isUsableRange(from, to))
-        throw WorkError(
-            QStringLiteral("nothing to draw from x = %1 to %2: the data go from %3 to %4")
-                .arg(number(from), number(to), number(data->low), number(data->high)));
     return AxisDivision::of(from, to, wanted, options.ticks);
 }
 
@@ -74,9 +76,8 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
 {
     const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
     if (!data)
-        throw WorkError(
-            QStringLiteral("nothing to draw from x = %1 to %2: there is a gap in the data")
-                .arg(number(x.from()), number(x.to())));
+        throw WorkError(QStringLiteral("there is nothing from x = %1 to %2 but a gap in the data")
+                            .arg(number(x.from()), number(x.to())));
     const int wanted = divisionsIn(options.size.height(), pixelsPerYDivision);
     const AxisDivision automatic =
         charting::autoRange(data->low, data->high, wanted, options.ticks);
@@ -86,7 +87,7 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
     const double top = options.y.to.value_or(automatic.from + automatic.step * automatic.major);
     if (!AxisDivision::isUsableRange(bottom, top))
         throw WorkError(
-            QStringLiteral("nothing to draw from y = %1 to %2: the data go from %3 to %4")
+            QStringLiteral("there is nothing from y = %1 to %2: the data go from %3 to %4")
                 .arg(number(bottom), number(top), number(data->low), number(data->high)));
     return AxisDivision::of(bottom, top, wanted, options.ticks);
 }
@@ -94,9 +95,9 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
 QStringList curveNames(const std::vector<Series>& series, const Options& options)
 {
     if (options.legend.size() > int(series.size()))
-        throw WorkError(QStringLiteral("--legend: there are %1 names, but only %2 to draw")
-                            .arg(options.legend.size())
-                            .arg(series.size()));
+        throw UsageError(QStringLiteral("--legend: there are %1 names, but only %2 to draw")
+                             .arg(options.legend.size())
+                             .arg(series.size()));
     QStringList names = options.legend;
     for (int i = int(names.size()); i < int(series.size()); ++i)
         names.append(series[std::size_t(i)].name);

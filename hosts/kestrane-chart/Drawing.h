@@ -14,6 +14,7 @@ namespace hosts::chart {
 /// A chart of some series, with its look and its layout: all that painting needs.
 struct Drawing
 {
+    /// @throws UsageError if there are more names than curves
     /// @throws WorkError if there is nothing to draw in the range that @p options ask for
     static Drawing of(const std::vector<data::Series>& series, const Options& options);
 

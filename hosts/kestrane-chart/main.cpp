@@ -17,6 +17,7 @@
 #include <exception>
 #include <iterator>
 #include <new>
+#include <string>
 #include <vector>
 
 namespace {
@@ -60,6 +61,9 @@ void draw(const chart::Options& options)
     });
 }
 
+// What Qt has to say about its surroundings is not for the user of this program.
+void keepQuiet(QtMsgType, const QMessageLogContext&, const QString&) {}
+
 int run(int argc, char** argv)
 {
     // Names of files and texts are UTF-8, also where the environment names no language.
@@ -69,6 +73,7 @@ int run(int argc, char** argv)
         return 0;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // Nothing is shown on a screen.
+    qInstallMessageHandler(keepQuiet);
     int applicationArguments = 1;
     const QGuiApplication application(applicationArguments, argv);
     Kestrane::initialize();
@@ -77,9 +82,12 @@ int run(int argc, char** argv)
     return 0;
 }
 
-int complain(const char* message, int status)
+// One line, whatever stands in the names of files.
+int complain(std::string message, int status)
 {
-    std::fprintf(stderr, "kestrane-chart: %s\n", message);
+    const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7f'; };
+    std::replace_if(message.begin(), message.end(), isControl, '?');
+    std::fprintf(stderr, "kestrane-chart: %s\n", message.c_str());
     return status;
 }
 
