@@ -74,7 +74,7 @@ QFont Look::textFont() const
 QFont Look::titleFont() const
 {
     QFont font = fontOfSize(titleSize);
-    font.setWeight(QFont::DemiBold);
+    font.setWeight(QFont::Bold);
     return font;
 }
 

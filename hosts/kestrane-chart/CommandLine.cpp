@@ -194,16 +194,14 @@ void checkNumbers(const RawOptions& raw)
         throw UsageError(QStringLiteral("--symbols: must not be negative"));
 }
 
-void checkRange(const AxisOptions& axis, const char* from, const char* to)
+void checkRange(const AxisOptions& axis)
 {
     if (!axis.from || !axis.to || AxisDivision::isUsableRange(*axis.from, *axis.to))
         return;
     const bool isOrdered = *axis.from < *axis.to;
-    throw UsageError(QStringLiteral("%1 %2 %3 %4: %5")
-                         .arg(QLatin1String(from), QString::number(*axis.from, 'g', 15),
-                              QLatin1String(to), QString::number(*axis.to, 'g', 15),
-                              isOrdered ? QStringLiteral("the range is too narrow or too wide")
-                                        : QStringLiteral("the range is empty")));
+    throw UsageError(axis.rangeText() +
+                     (isOrdered ? QStringLiteral(": the range is too narrow or too wide")
+                                : QStringLiteral(": the range is empty")));
 }
 
 void checkQuantity(const std::string& name)
@@ -259,14 +257,32 @@ data::ReadOptions readOptionsOf(const RawOptions& raw)
     return read;
 }
 
-AxisOptions axisOptionsOf(const std::string& caption, const std::string& quantity,
-                          const std::string& unit, const std::optional<double>& from,
-                          const std::optional<double>& to, const std::optional<double>& reference)
+AxisOptions xOptionsOf(const RawOptions& raw)
 {
-    AxisOptions axis = {text(caption), text(quantity), text(unit), from, to};
-    if (reference)
-        axis.reference = *reference;
-    return axis;
+    AxisOptions x;
+    x.fromName = QStringLiteral("--from");
+    x.toName = QStringLiteral("--to");
+    x.caption = text(raw.xCaption);
+    x.quantity = text(raw.xQuantity);
+    x.unit = text(raw.xUnit);
+    x.from = raw.from;
+    x.to = raw.to;
+    x.reference = raw.xReference.value_or(x.reference);
+    return x;
+}
+
+AxisOptions yOptionsOf(const RawOptions& raw)
+{
+    AxisOptions y;
+    y.fromName = QStringLiteral("--bottom");
+    y.toName = QStringLiteral("--top");
+    y.caption = text(raw.yCaption);
+    y.quantity = text(raw.yQuantity);
+    y.unit = text(raw.yUnit);
+    y.from = raw.bottom;
+    y.to = raw.top;
+    y.reference = raw.yReference.value_or(y.reference);
+    return y;
 }
 
 Options optionsOf(const RawOptions& raw)
@@ -278,10 +294,8 @@ Options optionsOf(const RawOptions& raw)
     options.inputs = texts(raw.inputs);
     options.output = text(raw.output);
     options.read = readOptionsOf(raw);
-    options.x =
-        axisOptionsOf(raw.xCaption, raw.xQuantity, raw.xUnit, raw.from, raw.to, raw.xReference);
-    options.y =
-        axisOptionsOf(raw.yCaption, raw.yQuantity, raw.yUnit, raw.bottom, raw.top, raw.yReference);
+    options.x = xOptionsOf(raw);
+    options.y = yOptionsOf(raw);
     options.ticks = raw.ticks == "fixed" ? TickPlaces::Fixed : TickPlaces::Moving;
     options.title = text(raw.title);
     options.legend = texts(raw.legend);
@@ -290,8 +304,8 @@ Options optionsOf(const RawOptions& raw)
     options.symbolSpacing = raw.symbols;
     options.size = readSize(raw.size);
     options.dpi = raw.dpi;
-    checkRange(options.x, "--from", "--to");
-    checkRange(options.y, "--bottom", "--top");
+    checkRange(options.x);
+    checkRange(options.y);
     checkPixels(options.size, options.dpi);
     checkFiles(options);
     return options;

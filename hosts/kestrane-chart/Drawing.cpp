@@ -31,9 +31,22 @@ namespace {
 constexpr int pixelsPerXDivision = 100;
 constexpr int pixelsPerYDivision = 75;
 
-QString number(double value)
+QString outsideText(const AxisOptions& axis, const Extent& data)
 {
-    return QString::number(value, 'g', 10);
+    return QStringLiteral("%1: the data go from %2 to %3")
+        .arg(axis.rangeText())
+        .arg(data.low, 0, 'g', 10)
+        .arg(data.high, 0, 'g', 10);
+}
+
+// Line ends and their like have no picture, and no place in an SVG.
+QString printable(QString text)
+{
+    for (QChar& c : text) {
+        if (!c.isPrint() && !c.isSurrogate())
+            c = QLatin1Char(' ');
+    }
+    return text;
 }
 
 int divisionsIn(int length, int pixelsPerDivision)
@@ -62,9 +75,7 @@ AxisDivision xDivision(const std::vector<Series>& series, const Options& options
     const double least = options.x.from.value_or(spread.first);
     const double most = options.x.to.value_or(spread.second);
     if (least > data->high || most < data->low || !AxisDivision::isUsableRange(least, most))
-        throw WorkError(
-            QStringLiteral("there is nothing from x = %1 to %2: the data go from %3 to %4")
-                .arg(number(least), number(most), number(data->low), number(data->high)));
+        throw WorkError(outsideText(options.x, *data));
     const int wanted = divisionsIn(options.size.width(), pixelsPerXDivision);
     const auto rounded = AxisDivision::rounded(least, most, wanted);
     const double from = options.x.from.value_or(rounded.first);
@@ -76,8 +87,7 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
 {
     const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
     if (!data)
-        throw WorkError(QStringLiteral("there is nothing from x = %1 to %2 but a gap in the data")
-                            .arg(number(x.from()), number(x.to())));
+        throw WorkError(options.x.rangeText() + QStringLiteral(": a gap in the data"));
     const int wanted = divisionsIn(options.size.height(), pixelsPerYDivision);
     const AxisDivision automatic =
         charting::autoRange(data->low, data->high, wanted, options.ticks);
@@ -86,9 +96,7 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
     const double bottom = options.y.from.value_or(automatic.from);
     const double top = options.y.to.value_or(automatic.from + automatic.step * automatic.major);
     if (!AxisDivision::isUsableRange(bottom, top))
-        throw WorkError(
-            QStringLiteral("there is nothing from y = %1 to %2: the data go from %3 to %4")
-                .arg(number(bottom), number(top), number(data->low), number(data->high)));
+        throw WorkError(outsideText(options.y, *data));
     return AxisDivision::of(bottom, top, wanted, options.ticks);
 }
 
@@ -101,6 +109,7 @@ QStringList curveNames(const std::vector<Series>& series, const Options& options
     QStringList names = options.legend;
     for (int i = int(names.size()); i < int(series.size()); ++i)
         names.append(series[std::size_t(i)].name);
+    std::transform(names.begin(), names.end(), names.begin(), printable);
     return names;
 }
 
@@ -118,9 +127,9 @@ ChartTexts textsOf(const AxisView& x, const AxisView& y, const QStringList& name
                    const Options& options)
 {
     ChartTexts texts;
-    texts.title = options.title;
-    texts.xCaption = options.x.caption;
-    texts.yCaption = options.y.caption;
+    texts.title = printable(options.title);
+    texts.xCaption = printable(options.x.caption);
+    texts.yCaption = printable(options.y.caption);
     if (options.showLegend && (names.size() > 1 || !options.legend.isEmpty()))
         texts.legend = names;
     texts.xMarks = x.marks();

@@ -16,6 +16,11 @@ namespace hosts::chart {
 /// What the user wants of one axis.
 struct AxisOptions
 {
+    /// The range as it was asked for on the command line, such as "--from 3 --to 4".
+    QString rangeText() const;
+
+    QString fromName; ///< What the command line calls the two limits.
+    QString toName;
     QString caption;
     QString quantity;
     QString unit; ///< Written as it is behind each number.

@@ -109,7 +109,7 @@ QByteArray PictureFile::svg(const Paint& paint) const
     generator.setResolution(int(logicalDpi));
     generator.setSize(m_size);
     generator.setViewBox(QRect(QPoint(0, 0), m_size));
-    generator.setTitle(m_title);
+    generator.setTitle(m_title.toHtmlEscaped()); // It is written as it is.
     run(
         generator, 1.0, [&](QPainter& painter) { paint(painter, 0.0); }, m_path);
     return bytes;

@@ -53,7 +53,8 @@ std::vector<data::Series> readAll(const chart::Options& options)
 
 void draw(const chart::Options& options)
 {
-    const chart::PictureFile file(options.output, options.size, options.dpi, options.title);
+    const chart::PictureFile file(options.output, options.size, options.dpi,
+                                  options.title.simplified());
     const chart::Drawing drawing = chart::Drawing::of(readAll(options), options);
     file.write([&](QPainter& painter, double deviceScale) {
         charting::ChartPainter(painter, drawing.look, deviceScale)
