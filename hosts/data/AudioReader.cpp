@@ -28,7 +28,8 @@ bool hasAudioMagic(const QByteArray& head)
     const QByteArray form = head.mid(8, 4);
     const bool isWave = (head.startsWith("RIFF") || head.startsWith("RF64")) && form == "WAVE";
     const bool isAiff = head.startsWith("FORM") && (form == "AIFF" || form == "AIFC");
-    return isWave || isAiff || head.startsWith("fLaC") || head.startsWith("OggS");
+    const bool isAu = head.startsWith(QByteArray(".snd\0", 5));
+    return isWave || isAiff || isAu || head.startsWith("fLaC") || head.startsWith("OggS");
 }
 
 bool hasAudioEnding(const QString& path)
@@ -69,7 +70,7 @@ std::vector<int> chooseChannels(const QString& path, const QStringList& wanted, 
     return channels;
 }
 
-std::vector<SampleRuns> readChannels(SNDFILE* sound, const SF_INFO& info,
+std::vector<SampleRuns> readChannels(const QString& path, SNDFILE* sound, const SF_INFO& info,
                                      const std::vector<int>& channels, const Progress& progress)
 {
     const auto width = static_cast<std::size_t>(info.channels);
@@ -86,6 +87,11 @@ std::vector<SampleRuns> readChannels(SNDFILE* sound, const SF_INFO& info,
         progress(static_cast<double>(done) /
                  static_cast<double>(std::max({info.frames, done, sf_count_t(1)})));
     }
+    if (done > 0 && done < info.frames && info.frames != SF_COUNT_MAX)
+        throw ReadError(path, QStringLiteral("is cut off or damaged: only %1 of its %2 frames can "
+                                             "be read")
+                                  .arg(done)
+                                  .arg(info.frames));
     return result;
 }
 
@@ -105,7 +111,7 @@ std::vector<Series> readAudio(const QString& path, const ReadOptions& options,
     SF_INFO info = {};
     const Sound sound = openSound(path, info);
     const std::vector<int> channels = chooseChannels(path, options.columns, info.channels);
-    const std::vector<SampleRuns> runs = readChannels(sound.get(), info, channels, progress);
+    const std::vector<SampleRuns> runs = readChannels(path, sound.get(), info, channels, progress);
     const RowGrid grid = {options.start.value_or(0.0),
                           options.step.value_or(1.0 / static_cast<double>(info.samplerate)),
                           {}};

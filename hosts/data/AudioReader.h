@@ -14,9 +14,9 @@ constexpr qint64 AudioMagicSize = 12;
 /// of its name.
 bool isAudio(const QString& path, const QByteArray& head);
 
-/// Reads the sound in the file @p path as readRecording() tells. Of a sound that has been cut off,
-/// what is there.
-/// @throws ReadError
+/// Reads the sound in the file @p path as readRecording() tells.
+/// @throws ReadError, also for a sound with fewer samples than its header says, in so far as
+///         libsndfile passes on what the header says; of a cut WAV it does not
 std::vector<Series> readAudio(const QString& path, const ReadOptions& options,
                               const Progress& progress);
 

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace hosts::data {
 
@@ -33,11 +34,17 @@ bool isEqualInAnyCase(std::string_view text, std::string_view lower)
                       [](char a, char b) { return lowerCase(a) == b; });
 }
 
-} // namespace
-
-double cellNumber(std::string_view cell, char decimalPoint)
+bool isMissing(std::string_view cell)
 {
-    cell = trimmed(cell);
+    constexpr std::array<std::string_view, 9> markers = {"",     "na", "n/a", "#n/a", "null",
+                                                         "none", "-",  "--",  "."};
+    return std::any_of(markers.begin(), markers.end(),
+                       [cell](std::string_view marker) { return isEqualInAnyCase(cell, marker); });
+}
+
+/// NaN and infinity are numbers here, and so is one too large for a double.
+std::optional<double> parse(std::string_view cell, char decimalPoint)
+{
     const bool hasPlus = cell.size() > 1 && cell[0] == '+' && cell[1] != '-';
     cell.remove_prefix(hasPlus ? 1 : 0);
     const char* const end = cell.data() + cell.size();
@@ -45,23 +52,22 @@ double cellNumber(std::string_view cell, char decimalPoint)
     const auto result = fast_float::from_chars_advanced(
         cell.data(), end, number,
         fast_float::parse_options(fast_float::chars_format::general, decimalPoint));
-    const bool isNumber = result.ec == std::errc() && result.ptr == end && std::isfinite(number);
-    return isNumber ? number : NotANumber;
+    const bool isNumber = result.ec != std::errc::invalid_argument && result.ptr == end;
+    return isNumber ? std::optional<double>(number) : std::nullopt;
 }
 
-bool isMissing(std::string_view cell)
+} // namespace
+
+double cellNumber(std::string_view cell, char decimalPoint)
 {
-    constexpr std::array<std::string_view, 14> markers = {"",     "na",   "n/a",  "#n/a",    "nan",
-                                                          "-nan", "null", "none", "-",       "--",
-                                                          ".",    "inf",  "-inf", "infinity"};
-    cell = trimmed(cell);
-    return std::any_of(markers.begin(), markers.end(),
-                       [cell](std::string_view marker) { return isEqualInAnyCase(cell, marker); });
+    const double number = parse(trimmed(cell), decimalPoint).value_or(NotANumber);
+    return std::isfinite(number) ? number : NotANumber;
 }
 
 bool isText(std::string_view cell, char decimalPoint)
 {
-    return std::isnan(cellNumber(cell, decimalPoint)) && !isMissing(cell);
+    cell = trimmed(cell);
+    return !isMissing(cell) && !parse(cell, decimalPoint);
 }
 
 } // namespace hosts::data

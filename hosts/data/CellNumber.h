@@ -9,11 +9,8 @@ namespace hosts::data {
 /// part and its decimals. NaN when there is none, or none that is finite.
 double cellNumber(std::string_view cell, char decimalPoint);
 
-/// True for the ways to write that there is no value: nothing, NA, NaN, null, - and their like,
-/// infinities too.
-bool isMissing(std::string_view cell);
-
-/// True for a cell with something in it that is neither a number nor a missing value.
+/// True for a cell with something in it that is neither a number, however large, nor a common way
+/// to write that there is none, such as NA.
 bool isText(std::string_view cell, char decimalPoint);
 
 } // namespace hosts::data

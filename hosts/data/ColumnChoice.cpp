@@ -1,5 +1,6 @@
 #include "hosts/data/ColumnChoice.h"
 
+#include "hosts/data/CellNumber.h"
 #include "hosts/data/ReadError.h"
 #include "hosts/data/TimeGrid.h"
 
@@ -67,18 +68,13 @@ bool isCalledLikeATime(const QString& name)
 
 bool isRegular(const CsvHead& head, int column)
 {
-    const std::vector<double> times = head.numbers(column);
-    const std::optional<double> step = typicalStep(times);
-    if (!step || times.size() < LeastRegularRows)
-        return false;
-    TimeGrid grid(*step);
-    for (std::size_t row = 0; row < times.size(); ++row) {
-        if (std::isnan(times[row]) ||
-            grid.put(times[row], head.rows[row][static_cast<std::size_t>(column)]) !=
-                TimeGrid::Regular)
-            return false;
-    }
-    return grid.grid().jumps.empty();
+    const std::vector<std::string> cells = head.cells(column);
+    TimeGrid grid(cells, head.decimalPoint);
+    const bool isAllRegular = std::all_of(cells.begin(), cells.end(), [&](const std::string& cell) {
+        const double time = cellNumber(cell, head.decimalPoint);
+        return !std::isnan(time) && grid.put(time, cell) == TimeGrid::Regular;
+    });
+    return cells.size() >= LeastRegularRows && isAllRegular && grid.grid().jumps.empty();
 }
 
 std::optional<int> chooseTime(const QString& path, const CsvHead& head, const QString& wanted)

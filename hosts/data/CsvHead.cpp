@@ -151,13 +151,12 @@ QStringList columnNames(const CsvHead::Row& names, const std::vector<CsvHead::Ro
 
 } // namespace
 
-std::vector<double> CsvHead::numbers(int column) const
+std::vector<std::string> CsvHead::cells(int column) const
 {
-    std::vector<double> result;
-    for (const Row& row : rows) {
-        const auto index = static_cast<std::size_t>(column);
-        result.push_back(cellNumber(index < row.size() ? row[index] : std::string(), decimalPoint));
-    }
+    const auto index = static_cast<std::size_t>(column);
+    std::vector<std::string> result;
+    for (const Row& row : rows)
+        result.push_back(index < row.size() ? row[index] : std::string());
     return result;
 }
 

@@ -23,8 +23,8 @@ struct CsvHead
     long long begin = 0;   ///< Where the table begins in the file, in bytes.
     long long line = 1;    ///< The line in which it begins.
 
-    /// The numbers of @p column in the first rows, NaN where there is none.
-    std::vector<double> numbers(int column) const;
+    /// The cells of @p column in the first rows, empty where a row ends before it.
+    std::vector<std::string> cells(int column) const;
 };
 
 /// Looks at @p bytes, the beginning of the file @p path.

@@ -59,9 +59,9 @@ private:
     bool m_isAtNames;
 };
 
-double typicalStepOf(const CsvHead& head, const std::optional<int>& column)
+std::vector<std::string> firstTimes(const CsvHead& head, const std::optional<int>& column)
 {
-    return column ? typicalStep(head.numbers(*column)).value_or(1.0) : 1.0;
+    return column ? head.cells(*column) : std::vector<std::string>();
 }
 
 TableCollector::TableCollector(const QString& path, const CsvHead& head, const ReadOptions& options)
@@ -70,7 +70,7 @@ TableCollector::TableCollector(const QString& path, const CsvHead& head, const R
     , m_options(options)
     , m_choice(chooseColumns(path, head, options))
     , m_slots(static_cast<std::size_t>(head.names.size()), -1)
-    , m_timeGrid(typicalStepOf(head, m_choice.time))
+    , m_timeGrid(firstTimes(head, m_choice.time), head.decimalPoint)
     , m_isAtNames(head.hasNames)
 {
     for (const int index : m_choice.values) {
@@ -90,7 +90,7 @@ void TableCollector::cell(std::string_view text)
         return;
     Column& column = m_columns[static_cast<std::size_t>(m_slots[index])];
     column.value = cellNumber(text, m_head.decimalPoint);
-    if (std::isnan(column.value) && !isMissing(text))
+    if (std::isnan(column.value) && isText(text, m_head.decimalPoint))
         ++column.textCells;
 }
 
@@ -140,9 +140,9 @@ bool TableCollector::hasValue() const
 void TableCollector::failWithoutTime(long long line) const
 {
     const QString cell = QString::fromStdString(m_timeCell);
-    const QString problem = isMissing(m_timeCell)
-                                ? QStringLiteral("there are values, but no time")
-                                : QStringLiteral("time %1 is not a number").arg(quoted(cell));
+    const QString problem = isText(m_timeCell, m_head.decimalPoint)
+                                ? QStringLiteral("time %1 is not a number").arg(quoted(cell))
+                                : QStringLiteral("there are values, but no time");
     throw ReadError(m_path, line, inTimeColumn(problem));
 }
 
@@ -153,7 +153,7 @@ void TableCollector::failOffGrid(long long line, TimeGrid::Verdict verdict) cons
                                 ? QStringLiteral("time %1 is not after the time before").arg(time)
                                 : QStringLiteral("time %1 breaks the regular step of about %2")
                                       .arg(time)
-                                      .arg(m_timeGrid.step());
+                                      .arg(m_timeGrid.meanStep());
     throw ReadError(m_path, line, inTimeColumn(problem));
 }
 

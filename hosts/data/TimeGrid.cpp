@@ -1,8 +1,11 @@
 #include "hosts/data/TimeGrid.h"
 
+#include "hosts/data/CellNumber.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace hosts::data {
 
@@ -12,8 +15,10 @@ namespace {
 constexpr double LeastTolerance = 1e-3;
 /// In steps: nearer to one place of the grid than to the next.
 constexpr double MostTolerance = 0.49;
-/// In typical steps: distances up to here are steps that rounding has stretched, not jumps.
-constexpr double LongestStep = 1.5;
+/// In typical steps: below are steps that rounding has stretched, above are jumps. Of a step of at
+/// least two rounding units, rounding makes at most 3 / 2 steps; of two such steps, at least 4
+/// / 2.5.
+constexpr double LongestStep = 1.55;
 /// Places beyond are not exact in a double.
 constexpr double MostPlaces = 9e15;
 
@@ -56,22 +61,50 @@ Places placesOf(std::string_view cell)
     return {last + std::max(digits - leadingZeros, 1) - 1, last};
 }
 
+/// The usual distance of @p times, NaN among them aside; 1 if they never ascend.
+double typicalStepOf(const std::vector<double>& times)
+{
+    std::vector<double> steps;
+    for (std::size_t i = 1; i < times.size(); ++i) {
+        const double step = times[i] - times[i - 1];
+        if (step > 0.0 && std::isfinite(step))
+            steps.push_back(step);
+    }
+    if (steps.empty())
+        return 1.0;
+    const auto middle = steps.begin() + static_cast<std::ptrdiff_t>((steps.size() - 1) / 2);
+    std::nth_element(steps.begin(), middle, steps.end());
+    // The mean of the usual steps is nearer to the truth than one step rounded to the decimals.
+    const double longest = *middle * LongestStep;
+    const auto end = std::partition(steps.begin(), steps.end(),
+                                    [longest](double step) { return step < longest; });
+    return std::accumulate(steps.begin(), end, 0.0) / static_cast<double>(end - steps.begin());
+}
+
 } // namespace
 
-TimeGrid::TimeGrid(double typicalStep)
-    : m_typicalStep(typicalStep)
-    , m_fastest(std::numeric_limits<double>::infinity())
-{}
+TimeGrid::TimeGrid(const std::vector<std::string>& firstCells, char decimalPoint)
+    : m_fastest(std::numeric_limits<double>::infinity())
+    , m_lastPlace(std::numeric_limits<int>::max())
+{
+    std::vector<double> times;
+    for (const std::string& cell : firstCells) {
+        times.push_back(cellNumber(cell, decimalPoint));
+        if (!std::isnan(times.back()))
+            roundingUnit(cell);
+    }
+    m_typicalStep = typicalStepOf(times);
+}
 
 double TimeGrid::roundingUnit(std::string_view cell)
 {
     const Places places = placesOf(cell);
-    m_lastPlace = m_row == 0 ? places.last : std::min(m_lastPlace, places.last);
+    m_lastPlace = std::min(m_lastPlace, places.last);
     m_significantDigits = std::max(m_significantDigits, places.first - places.last + 1);
     return std::pow(10.0, std::max(m_lastPlace, places.first + 1 - m_significantDigits));
 }
 
-double TimeGrid::step() const
+double TimeGrid::meanStep() const
 {
     return m_place > 0 ? (m_last - m_grid.offset) / static_cast<double>(m_place) : m_typicalStep;
 }
@@ -81,57 +114,38 @@ double TimeGrid::step() const
 /// (tk - t0 + tolerance) / k. The steps that fit all times are where these ranges meet.
 TimeGrid::Verdict TimeGrid::put(double time, std::string_view cell)
 {
-    const double unit = roundingUnit(cell);
-    const double step = this->step();
-    const double steps = (time - m_last) / step;
-    if (m_row == 0) {
-        m_grid.offset = time;
-    } else if (!(time > m_last)) {
+    if (m_row++ == 0) {
+        m_grid.offset = m_last = time;
+        return Regular;
+    }
+    if (!(time > m_last))
         return NotAscending;
-    } else if (!(steps <= MostPlaces) || !std::isfinite(time - m_grid.offset)) {
+    const double step = std::clamp(m_typicalStep, m_slowest, m_fastest);
+    const double steps = (time - m_last) / step;
+    if (!(steps <= MostPlaces) || !std::isfinite(time - m_grid.offset))
         return OffGrid;
-    }
-    const long long places = m_row == 0 || steps < LongestStep ? 1 : std::llround(steps);
-    m_place += places;
-    if (places != 1)
-        m_grid.jumps.push_back({m_row, m_place});
-    if (m_row > 0) {
-        const double tolerance = std::clamp(unit, LeastTolerance * step, MostTolerance * step);
-        const double k = static_cast<double>(m_place);
-        m_slowest = std::max(m_slowest, (time - m_grid.offset - tolerance) / k);
-        m_fastest = std::min(m_fastest, (time - m_grid.offset + tolerance) / k);
-    }
+    const long long place = m_place + (steps < LongestStep ? 1 : std::llround(steps));
+    const double k = static_cast<double>(place);
+    const double tolerance =
+        std::clamp(roundingUnit(cell), LeastTolerance * step, MostTolerance * step);
+    const double slowest = std::max(m_slowest, (time - m_grid.offset - tolerance) / k);
+    const double fastest = std::min(m_fastest, (time - m_grid.offset + tolerance) / k);
+    if (!(slowest <= fastest))
+        return OffGrid;
+    if (place > m_place + 1)
+        m_grid.jumps.push_back({m_row - 1, place});
+    m_slowest = slowest;
+    m_fastest = fastest;
     m_last = time;
-    ++m_row;
-    return m_slowest <= m_fastest ? Regular : OffGrid;
+    m_place = place;
+    return Regular;
 }
 
 RowGrid TimeGrid::grid() const
 {
     RowGrid result = m_grid;
-    result.scale = std::clamp(step(), m_slowest, m_fastest);
+    result.scale = std::clamp(meanStep(), m_slowest, m_fastest);
     return result;
-}
-
-std::optional<double> typicalStep(const std::vector<double>& times)
-{
-    std::vector<double> steps;
-    for (std::size_t i = 1; i < times.size(); ++i) {
-        if (times[i] > times[i - 1])
-            steps.push_back(times[i] - times[i - 1]);
-    }
-    if (steps.empty())
-        return std::nullopt;
-    const auto middle = steps.begin() + static_cast<std::ptrdiff_t>(steps.size() / 2);
-    std::nth_element(steps.begin(), middle, steps.end());
-    const double limit = *middle * LongestStep;
-    // The mean of the usual steps is nearer to the truth than one step rounded to the decimals.
-    const auto end =
-        std::partition(steps.begin(), steps.end(), [limit](double step) { return step < limit; });
-    double sum = 0.0;
-    for (auto step = steps.begin(); step != end; ++step)
-        sum += *step;
-    return sum / static_cast<double>(end - steps.begin());
 }
 
 } // namespace hosts::data

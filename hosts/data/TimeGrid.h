@@ -3,7 +3,7 @@
 
 #include "hosts/data/RowGrid.h"
 
-#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,8 +18,8 @@ namespace hosts::data {
 class TimeGrid
 {
 public:
-    /// @param typicalStep about the distance of the times, to tell a step from a jump; positive
-    explicit TimeGrid(double typicalStep);
+    /// @param firstCells the beginning of the column, to learn its typical step and its format
+    TimeGrid(const std::vector<std::string>& firstCells, char decimalPoint);
 
     enum Verdict { Regular, NotAscending, OffGrid };
 
@@ -27,8 +27,8 @@ public:
     /// @param cell how the file writes @p time
     Verdict put(double time, std::string_view cell);
 
-    /// About the distance of the times taken so far.
-    double step() const;
+    /// The mean distance of the places taken so far, or the typical step before the second.
+    double meanStep() const;
 
     /// The grid of the rows taken; its ends are the first and the last time as far as the times
     /// between allow.
@@ -37,19 +37,16 @@ public:
 private:
     double roundingUnit(std::string_view cell);
 
-    double m_typicalStep;
+    double m_typicalStep; ///< Of the beginning; tells a step from a jump.
     RowGrid m_grid;
     double m_last = 0.0;
     double m_slowest = 0.0; ///< The steps that fit all times are those from here
     double m_fastest;       ///< to here.
     long long m_row = 0;
-    long long m_place = -1;
-    int m_lastPlace = 0;         ///< Power of ten of the finest decimal seen.
+    long long m_place = 0;       ///< Of the last time.
+    int m_lastPlace;             ///< Power of ten of the finest decimal seen.
     int m_significantDigits = 1; ///< The most seen.
 };
-
-/// The usual distance of @p times, NaN among them aside, or nothing if they hardly ever ascend.
-std::optional<double> typicalStep(const std::vector<double>& times);
 
 } // namespace hosts::data
 

@@ -1,0 +1,78 @@
+#include "tests/hosts/data/Reading.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace hosts::data {
+
+namespace {
+
+TEST(ReadErrorTest, SaysInOneLineWhatIsWrongWithATable)
+{
+    const struct
+    {
+        QByteArray bytes;
+        QStringList columns;
+        const char* message;
+    } cases[] = {
+        // clang-format off
+        {"",                    {},    "file: is empty"},
+        {"\n # c\n\n",          {},    "file: holds no table, only blank lines and comments"},
+        {"a,b\nx,y\n",          {},    "file: no column holds mainly numbers"},
+        {"a,b\n",               {},    "file: no column holds mainly numbers"},
+        {"a,b\n1,y\n",          {"b"}, "file: column 2 (\"b\") holds no numbers"},
+        {"a\n1\n\"2\n3\n",      {},
+         "file, line 3: a quotation mark opened in this row is never closed"},
+        {"a\n1\n\"" + QByteArray(2 << 20, '\n'), {},
+         "file, line 3: a cell is longer than 1 MiB; is a quotation mark left open in this row?"},
+        {QByteArray("a\n1\n2\0\n", 7), {},
+         "file, line 3: a NUL byte; this is neither text nor a known sound file"},
+        {QByteArray(100, '-') + ",b\n1,2\n", {"c"},
+         "file: no column \"c\"; there are 2: \"----------------------------------------...\", "
+         "\"b\""},
+        // clang-format on
+    };
+    const Reading reading;
+    for (const auto& c : cases)
+        EXPECT_EQ(reading.read(c.bytes, {c.columns, "", {}, {}}), c.message);
+}
+
+std::string messageFor(const Reading& reading, const QString& path)
+{
+    try {
+        readRecording(path, {});
+        return {};
+    } catch (const ReadError& error) {
+        return reading.withoutDirectory(error);
+    }
+}
+
+TEST(ReadErrorTest, RefusesWhatIsNoRegularFile)
+{
+    const Reading reading;
+    const QString pipe = reading.directory.filePath("pipe");
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_EQ(messageFor(reading, pipe), "pipe: is a device or a pipe, not a regular file");
+    EXPECT_EQ(messageFor(reading, "/dev/zero"),
+              "/dev/zero: is a device or a pipe, not a regular file");
+    EXPECT_EQ(messageFor(reading, reading.directory.path() + "/."),
+              ".: is a directory, not a file");
+    EXPECT_EQ(messageFor(reading, reading.directory.filePath("absent")),
+              "absent: there is no such file");
+}
+
+TEST(ReadErrorTest, StaysOneLineWhateverIsInNamesAndCells)
+{
+    const QString odd = QString::fromUtf8("a\nb\033[1m\u2028\u20ac\U0001F600");
+    const ReadError error(odd, 7, quoted(odd));
+    EXPECT_EQ(QString::fromUtf8(error.what()),
+              QString::fromUtf8("a?b?[1m?\u20ac\U0001F600, line 7: "
+                                "\"a?b?[1m?\u20ac\U0001F600\""));
+    const Reading reading;
+    EXPECT_EQ(reading.read("", {}, "new\nline"), "new?line: is empty");
+}
+
+} // namespace
+
+} // namespace hosts::data
