@@ -47,17 +47,21 @@ AxisDivision fittedDivision(double low, double high, int divisions, TickPlaces p
     division.step = (high - low) / divisions;
     const auto axis = division.makeAxis();
     fitToData(*axis, low, high);
+    if (places == TickPlaces::Moving)
+        return AxisDivision::withStep(axis->minValue(), axis->maxValue(), axis->scale());
     division.from = axis->offset();
     division.step = axis->scale();
     division.minor = AxisDivision::minorDivisionsOf(division.step);
     return division;
 }
 
-// Less is better: an axis that the data fill, with a step that is easy to read.
-double costOf(const AxisDivision& division, double extent)
+// Less is better: an axis that the data fill, with steps that are easy to read, in about the wanted
+// number.
+double costOf(const AxisDivision& division, double extent, int wanted)
 {
     const bool isRound = qFuzzyCompare(division.step, AxisDivision::roundStep(division.step));
-    return division.step * division.major / extent + (isRound ? 0.0 : 1.0);
+    const double shown = division.step * division.major * division.visible;
+    return shown / extent + (isRound ? 0.0 : 1.0) + 0.05 * std::abs(shown / division.step - wanted);
 }
 
 } // namespace
@@ -67,9 +71,9 @@ AxisDivision autoRange(double low, double high, int wanted, TickPlaces places)
     std::tie(low, high) = AxisDivision::spread(low, high);
     AxisDivision best;
     double bestCost = std::numeric_limits<double>::infinity();
-    for (int divisions = std::max(2, wanted - 2); divisions <= wanted + 2; ++divisions) {
+    for (int divisions = std::max(2, wanted - 3); divisions <= wanted + 3; ++divisions) {
         const AxisDivision division = fittedDivision(low, high, divisions, places);
-        const double cost = costOf(division, high - low);
+        const double cost = costOf(division, high - low, wanted);
         if (cost < bestCost) {
             best = division;
             bestCost = cost;

@@ -90,12 +90,17 @@ AxisDivision AxisDivision::of(double from, double to, int wanted, TickPlaces pla
 {
     if (places == TickPlaces::Fixed)
         return fixedDivision(from, to, wanted);
+    return withStep(from, to, roundStep((to - from) / wanted));
+}
+
+AxisDivision AxisDivision::withStep(double from, double to, double step)
+{
     AxisDivision division;
-    division.step = roundStep((to - from) / wanted);
-    division.minor = minorDivisionsOf(division.step);
-    division.from = from - division.step * roundingAllowance;
-    division.major = 1 + int(std::floor((to - from) / division.step + roundingAllowance));
-    division.visible = (to - division.from) / (division.step * division.major);
+    division.step = step;
+    division.minor = minorDivisionsOf(step);
+    division.from = from - step * roundingAllowance;
+    division.major = 1 + int(std::floor((to - from) / step + roundingAllowance));
+    division.visible = (to - division.from) / (step * division.major);
     return division;
 }
 

@@ -31,6 +31,9 @@ struct AxisDivision
     ///        fifths of it up to all of it, and more than that never
     static AxisDivision of(double from, double to, int wanted, TickPlaces places);
 
+    /// Moving ticks at the multiples of @p step.
+    static AxisDivision withStep(double from, double to, double step);
+
     /// Finite limits, the lower first, far enough apart for their difference to have digits.
     static bool isUsableRange(double from, double to);
 
@@ -45,6 +48,9 @@ struct AxisDivision
 
     /// How many minor divisions suit a major step: they fall on round values too.
     static int minorDivisionsOf(double step);
+
+    /// The end of the range.
+    double to() const { return from + step * major * visible; }
 
     QSharedPointer<pelorin::ui::chart::FixedPositionLinearAxis> makeAxis() const;
 };

@@ -15,21 +15,32 @@ using pelorin::variables::QuantityManager;
 
 namespace {
 
-// Share of the visible range by which rounding may put the last tick outside.
+// What rounding may do to a tick, as a share of the axis or of a division.
 constexpr double roundingAllowance = 1e-9;
 
-// The fewest digits with which every value is written to a hundredth of a step.
-int digitsFor(const QVector<double>& values, double step)
+constexpr int mostDigits = 15;
+constexpr int manyDigits = 7; // From here on a power of ten behind them makes nothing clearer.
+
+// The fewest digits with which every value is written as near as that.
+int digitsFor(const QVector<double>& values, double tolerance)
 {
-    constexpr int mostDigits = 15;
     for (int digits = 1; digits < mostDigits; ++digits) {
         const bool enough = std::all_of(values.cbegin(), values.cend(), [&](double value) {
-            return std::abs(QString::number(value, 'g', digits).toDouble() - value) <= step * 0.01;
+            return std::abs(QString::number(value, 'g', digits).toDouble() - value) <= tolerance;
         });
         if (enough)
             return digits;
     }
     return mostDigits;
+}
+
+// Exact if that takes few digits, else to a hundredth of a step.
+int digitsForLabels(const QVector<double>& values, double step)
+{
+    constexpr int fewDigits = 6;
+    const int enough = digitsFor(values, step * 0.01);
+    const int exact = digitsFor(values, step * 1e-6);
+    return exact <= std::max(fewDigits, enough + 1) ? exact : enough;
 }
 
 double largestOf(const QVector<double>& values)
@@ -87,22 +98,40 @@ void AxisView::appendMarks(const QVector<Axis::Tick>& ticks, bool major,
             continue;
         QStringList label;
         if (major)
-            label = m_formatter->formatTick(tick, m_reference);
+            label = m_formatter->formatTick(withCleanZero(tick), m_reference);
         marks.append({std::min(place(tick.axisPosition()), 1.0), major, label});
     }
+}
+
+// The tick whose label is to be zero may be off by rounding, which a label shows in all its digits.
+Axis::Tick AxisView::withCleanZero(const Axis::Tick& tick) const
+{
+    const double zero = std::isnan(m_reference) ? 0.0 : m_reference;
+    const bool isZero =
+        std::abs(tick.logicalPosition() - zero) < roundingAllowance * m_axis->scale();
+    return Axis::Tick(isZero ? zero : tick.logicalPosition(), tick.axisPosition(), tick.rank(),
+                      tick.secondaryLogicalPositions(), tick.isInvisible());
 }
 
 void AxisView::adaptFormatter()
 {
     QVector<double> values;
     for (const Axis::Tick& tick : m_axis->majorTicks())
-        values.append(tick.logicalPosition() - (std::isnan(m_reference) ? 0.0 : m_reference));
-    m_formatter->setSignificantDigits(digitsFor(values, m_axis->scale()));
+        values.append(withCleanZero(tick).logicalPosition() -
+                      (std::isnan(m_reference) ? 0.0 : m_reference));
+    const int digits = digitsForLabels(values, m_axis->scale());
+    const double largest = largestOf(values);
+    m_formatter->setSignificantDigits(digits);
     const Quantity quantity =
         Singleton<QuantityManager>::instance().quantity(m_formatter->quantity());
-    const double largest = largestOf(values);
-    if (!quantity.units().isEmpty() && quantity.units().first().takesPrefix && largest > 0.0)
-        m_formatter->setPreferredPrefix(prefixFor(largest, quantity));
+    if (!quantity.units().isEmpty() && quantity.units().first().takesPrefix) {
+        if (largest > 0.0)
+            m_formatter->setPreferredPrefix(prefixFor(largest, quantity));
+    } else if (digits >= manyDigits) {
+        m_formatter->setLimitRangeCount(mostDigits / 3);
+    } else if (largest >= 1e6 || largest < 1e-3) {
+        m_formatter->setOptions(TickFormatter::Scientific);
+    }
 }
 
 } // namespace hosts::charting

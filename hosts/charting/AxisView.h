@@ -43,6 +43,7 @@ public:
 private:
     void appendMarks(const QVector<pelorin::ui::chart::Axis::Tick>& ticks, bool major,
                      QVector<TickMark>& marks) const;
+    pelorin::ui::chart::Axis::Tick withCleanZero(const pelorin::ui::chart::Axis::Tick& tick) const;
     void adaptFormatter();
 
     QSharedPointer<pelorin::ui::chart::FixedPositionLinearAxis> m_axis;

@@ -10,6 +10,7 @@
 #include <kestrane/plots/SamplePlotAlgorithm.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace hosts::chart {
 
@@ -88,13 +89,17 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
     const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
     if (!data)
         throw WorkError(options.x.rangeText() + QStringLiteral(": a gap in the data"));
+    if (!std::isfinite((data->high - data->low) * 8.0))
+        throw WorkError(QStringLiteral("the values, from %1 to %2, are too far apart to draw")
+                            .arg(data->low)
+                            .arg(data->high));
     const int wanted = divisionsIn(options.size.height(), pixelsPerYDivision);
     const AxisDivision automatic =
         charting::autoRange(data->low, data->high, wanted, options.ticks);
     if (!options.y.from && !options.y.to)
         return automatic;
     const double bottom = options.y.from.value_or(automatic.from);
-    const double top = options.y.to.value_or(automatic.from + automatic.step * automatic.major);
+    const double top = options.y.to.value_or(automatic.to());
     if (!AxisDivision::isUsableRange(bottom, top))
         throw WorkError(outsideText(options.y, *data));
     return AxisDivision::of(bottom, top, wanted, options.ticks);
