@@ -9,6 +9,7 @@ namespace hosts::data {
 namespace {
 
 constexpr std::size_t LongestCell = std::size_t(1) << 20;
+constexpr std::size_t CellGrowth = LongestCell / 16;
 
 bool isBlank(std::string_view bytes)
 {
@@ -25,6 +26,7 @@ CsvParser::CsvParser(const QString& path, char separator, long long firstLine, C
 {
     if (csv_init(&m_parser, 0) != 0)
         throw std::bad_alloc();
+    csv_set_blk_size(&m_parser, CellGrowth);
     csv_set_delim(&m_parser, static_cast<unsigned char>(separator));
 }
 
