@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <future>
 #include <map>
 #include <stdexcept>
@@ -120,6 +121,26 @@ TEST_F(LazyRWMutexTest, APushWaitsForNoActionOfAnotherThread)
     EXPECT_EQ(m_log.join(""), "(1)(2)");
 }
 
+// A sound lock passes at any speed; a reader that comes in has ample time to be seen.
+TEST_F(LazyRWMutexTest, NoReaderComesInBesideActionsAndAfter)
+{
+    std::promise<void> cameIn;
+    const auto isOutside = [future = cameIn.get_future().share()] {
+        return future.wait_for(std::chrono::milliseconds(20)) == std::future_status::timeout;
+    };
+    std::thread reader;
+    m_atAfter = [&] { EXPECT_TRUE(isOutside()); };
+    m_lock.pushWriterAction([&] {
+        reader = std::thread([&] {
+            m_lock.lockForRead();
+            cameIn.set_value();
+            m_lock.unlockForRead();
+        });
+        EXPECT_TRUE(isOutside());
+    });
+    reader.join();
+}
+
 TEST_F(LazyRWMutexTest, AnActionMayReadAndKeepItsHold)
 {
     m_lock.lockForRead();
@@ -221,7 +242,7 @@ TEST_F(LazyRWMutexTest, ActionsAreNotStarvedByReaders)
 TEST(LazyRWMutexStressTest, KeepsOrderAndExclusionUnderManyThreads)
 {
     constexpr int threadCount = 6;
-    constexpr int rounds = 2000;
+    constexpr int rounds = 1000;
     std::atomic<int> readers{0};
     std::map<int, int> lastOf; // thread -> number of its last action
     long doneCount = 0;
@@ -239,8 +260,9 @@ TEST(LazyRWMutexStressTest, KeepsOrderAndExclusionUnderManyThreads)
                 ++readers;
             }
             lock.pushWriterAction([&, thread, i] {
-                EXPECT_EQ(readers, 0);
                 EXPECT_EQ(lastOf[thread], i - 1);
+                std::this_thread::yield(); // Gives a reader the chance to come in.
+                EXPECT_EQ(readers, 0);
                 lastOf[thread] = i;
                 ++doneCount;
             });
