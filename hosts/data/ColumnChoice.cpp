@@ -60,9 +60,9 @@ int findColumn(const QString& path, const QString& wanted, const QStringList& na
 
 bool isCalledLikeATime(const QString& name)
 {
+    // A capital T is more often a temperature.
     static const QRegularExpression pattern(
-        QStringLiteral("^(t|time|times|timestamp|elapsed|seconds?|secs?)([\\W_].*)?$"),
-        QRegularExpression::CaseInsensitiveOption);
+        QStringLiteral("^(t|(?i:time|times|timestamp|elapsed|seconds?|secs?))([\\W_].*)?$"));
     return pattern.match(name).hasMatch();
 }
 

@@ -168,8 +168,13 @@ CsvHead readCsvHead(const QString& path, std::string_view bytes, bool isWholeFil
     RowCollector collector;
     CsvParser parser(path, head.separator, head.line, collector);
     parser.feed(bytes);
-    if (isWholeFile || collector.rows.empty())
+    if (isWholeFile)
         parser.finish();
+    else if (collector.rows.empty())
+        throw ReadError(path, head.line,
+                        QStringLiteral("the first row is longer than %1 KiB; is a quotation mark "
+                                       "left open in it?")
+                            .arg(bytes.size() / 1024));
     head.rows = std::move(collector.rows);
     if (head.rows.empty())
         throw ReadError(path, QStringLiteral("holds no table, only blank lines and comments"));

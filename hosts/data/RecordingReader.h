@@ -16,7 +16,8 @@ using Progress = std::function<void(double fraction)>;
 /// Reads the recording in the file @p path.
 ///
 /// Sounds are what libsndfile reads (WAV, FLAC, Ogg and others), known by their content or by the
-/// ending of the name. Their abscissas are seconds, their values -1 to 1 of full scale.
+/// ending of the name. Their abscissas are seconds, their values -1 to 1 of full scale. Of an
+/// uncompressed sound that was cut off, what is there is read; a compressed one is an error.
 ///
 /// All else is a table: cells separated by comma, semicolon or tab, whichever fits the first
 /// lines; quoted with "" where needed; with or without a row of names at its head. Lines before
@@ -29,6 +30,8 @@ using Progress = std::function<void(double fraction)>;
 ///
 /// Time columns have to be regular: each sample lies within one unit of the last decimal place
 /// that the file writes, and nearer than half a step, to the abscissa that its segment gives it.
+///
+/// The first rows tell how many columns there are; cells beyond them are passed over.
 ///
 /// Reads once from front to back, in memory of the size of the samples it returns.
 ///

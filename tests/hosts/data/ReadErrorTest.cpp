@@ -19,6 +19,10 @@ TEST(ReadErrorTest, SaysInOneLineWhatIsWrongWithATable)
         // clang-format off
         {"",                    {},    "file: is empty"},
         {"\n # c\n\n",          {},    "file: holds no table, only blank lines and comments"},
+        {"a\n\"" + QByteArray(1 << 19, 'x'), {},
+         "file, line 2: a quotation mark opened in this row is never closed"},
+        {QByteArray(1 << 19, 'x'), {},
+         "file, line 1: the first row is longer than 256 KiB; is a quotation mark left open in it?"},
         {"a,b\nx,y\n",          {},    "file: no column holds mainly numbers"},
         {"a,b\n",               {},    "file: no column holds mainly numbers"},
         {"a,b\n1,y\n",          {"b"}, "file: column 2 (\"b\") holds no numbers"},

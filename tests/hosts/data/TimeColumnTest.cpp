@@ -26,6 +26,7 @@ TEST(TimeColumnTest, GivesOffsetAndScaleAndTellsOfMissingStretches)
         {"v,year\n5,1700\n6,1710\n",              "YEAR", "v 1700:10[5 6]"},
         {"x,v\n0,5\n1,6\n3,7\n",                  "",     "x 0:1[0 1 3] | v 0:1[5 6 7]"},
         {"time,v\n0,5\n1,6\n2,7\n",               "none", "time 0:1[0 1 2] | v 0:1[5 6 7]"},
+        {"T,v\n0,5\n1,6\n",                        "",     "T 0:1[0 1] | v 0:1[5 6]"},
         {"time\n0\n1\n2\n",                       "",     "time 0:1[0 1 2]"},
         {"time,v\n4,5\n",                         "",     "v 4:1[5]"},
         // stretches that are missing
