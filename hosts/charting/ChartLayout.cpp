@@ -3,6 +3,7 @@
 #include "hosts/charting/LabelPlacer.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace hosts::charting {
@@ -50,6 +51,8 @@ private:
     QSizeF labelSize(const QStringList& lines) const;
     double leftMargin(const ChartTexts& texts) const;
     double rightMargin(const ChartTexts& texts, double left) const;
+    double overhang(const QVector<TickMark>& marks, double room,
+                    const std::function<double(double)>& distance) const;
     double bottomMargin(const ChartTexts& texts) const;
     double legendHeight() const;
 
@@ -65,26 +68,38 @@ QSizeF LayoutWork::labelSize(const QStringList& lines) const
     return {width, double(lines.size()) * m_measure.height(Style::Text)};
 }
 
+// Between the left edge and the plot stand the caption and the labels of y, and half of a label of
+// x.
 double LayoutWork::leftMargin(const ChartTexts& texts) const
 {
     double widest = 0.0;
     for (const TickMark& mark : texts.yMarks)
         widest = std::max(widest, labelSize(mark.label).width());
     const double caption = texts.yCaption.isEmpty() ? 0.0 : m_measure.height(Style::Text) + spacing;
-    const double most = 0.4 * m_layout.size.width();
-    return edge + caption + std::min(widest, most) + tickLabelDistance;
+    const double labels = std::min(widest, 0.4 * m_layout.size.width());
+    const double room = m_layout.size.width() - edge;
+    return std::max(edge + caption + labels + tickLabelDistance,
+                    overhang(texts.xMarks, room, [](double place) { return place; }));
 }
 
-// A label centred on x = left + p * (width - left - right) ends at the edge of the picture for the
-// right margin that solves this for it.
 double LayoutWork::rightMargin(const ChartTexts& texts, double left) const
 {
-    double margin = edge;
     const double room = m_layout.size.width() - left;
-    for (const TickMark& mark : texts.xMarks) {
+    return std::max(edge, overhang(texts.xMarks, room, [](double place) { return 1.0 - place; }));
+}
+
+// The margin that labels centred on their places need at one end of the x axis. One in the distance
+// d of that end, as a share of the axis, ends in front of the edge of the picture if
+//     margin + d * (room - margin) >= half its width.
+double LayoutWork::overhang(const QVector<TickMark>& marks, double room,
+                            const std::function<double(double)>& distance) const
+{
+    double margin = 0.0;
+    for (const TickMark& mark : marks) {
         const double half = labelSize(mark.label).width() / 2.0 + edge / 2.0;
-        if (mark.place > 0.5)
-            margin = std::max(margin, (half - (1.0 - mark.place) * room) / mark.place);
+        const double d = distance(mark.place);
+        if (!mark.label.isEmpty() && d < 0.5)
+            margin = std::max(margin, (half - d * room) / (1.0 - d));
     }
     return std::min(margin, 0.25 * m_layout.size.width());
 }

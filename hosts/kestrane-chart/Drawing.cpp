@@ -30,7 +30,7 @@ using pelorin::variables::QuantityManager;
 namespace {
 
 constexpr int pixelsPerXDivision = 100;
-constexpr int pixelsPerYDivision = 75;
+constexpr int pixelsPerYDivision = 60;
 
 QString outsideText(const AxisOptions& axis, const Extent& data)
 {

@@ -1,0 +1,112 @@
+#include "hosts/charting/AxisDivision.h"
+#include "hosts/charting/AxisView.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace hosts::charting {
+
+namespace {
+
+QVector<double> majorPlaces(const AxisDivision& division)
+{
+    QVector<double> places;
+    for (const TickMark& mark : AxisView(division, QString()).marks()) {
+        if (mark.major)
+            places.append(mark.place);
+    }
+    std::sort(places.begin(), places.end());
+    return places;
+}
+
+TEST(AxisDivisionTest, RoundStepsAreOneTwoOrFiveTimesAPowerOfTen)
+{
+    const struct
+    {
+        double from, to;
+        int wanted;
+        double step;
+        int minor;
+        int ticks;
+    } cases[] = {{0.0, 300.0, 10, 50.0, 5, 7},    {0.0, 10.0, 10, 1.0, 5, 11},
+                 {0.0, 11.0, 10, 2.0, 4, 6},      {0.3, 1.1, 8, 0.1, 5, 9},
+                 {-0.3, 0.3, 6, 0.1, 5, 7},       {1.2, 3.33, 10, 0.5, 5, 4},
+                 {1958.0, 2002.0, 10, 5.0, 5, 9}, {-1.5e9, 0.0, 3, 5e8, 5, 4},
+                 {0.0, 3e-9, 10, 5e-10, 5, 7},    {0.7, 0.9, 10, 0.02, 4, 11},
+                 {99.95, 100.05, 4, 0.05, 5, 3}};
+    for (const auto& c : cases) {
+        const AxisDivision division = AxisDivision::of(c.from, c.to, c.wanted, TickPlaces::Moving);
+        EXPECT_EQ(division.step, c.step) << c.from << " to " << c.to;
+        EXPECT_EQ(division.minor, c.minor) << c.from << " to " << c.to;
+        EXPECT_EQ(majorPlaces(division).size(), c.ticks) << c.from << " to " << c.to;
+    }
+}
+
+TEST(AxisDivisionTest, AnyRangeIsShownExactlyWithATickOnEveryMultipleOfTheStep)
+{
+    std::mt19937 random(1);
+    std::uniform_int_distribution<int> whole(-5000, 5000);
+    std::uniform_int_distribution<int> exponent(-12, 9);
+    for (int i = 0; i < 3000; ++i) {
+        const double unit = std::pow(10.0, exponent(random));
+        const int low = whole(random);
+        const int length = 1 + std::abs(whole(random));
+        const double from = low * unit;
+        const double to = (low + length) * unit;
+        const AxisDivision division = AxisDivision::of(from, to, 10, TickPlaces::Moving);
+        const AxisView view(division, QString());
+        ASSERT_NEAR(view.from(), from, 1e-8 * division.step);
+        ASSERT_NEAR(view.to(), to, 1e-8 * division.step);
+        ASSERT_LE(division.visible, 1.0);
+        const double first = std::ceil(from / division.step - 1e-6);
+        const double last = std::floor(to / division.step + 1e-6);
+        const QVector<double> places = majorPlaces(division);
+        ASSERT_EQ(places.size(), int(last - first) + 1) << from << " to " << to;
+        ASSERT_NEAR(places.first() * (to - from) + from, first * division.step,
+                    1e-7 * division.step);
+    }
+}
+
+TEST(AxisDivisionTest, FixedPlacesDivideTheRangeEvenly)
+{
+    const AxisDivision division = AxisDivision::of(1.0, 8.0, 4, TickPlaces::Fixed);
+    EXPECT_EQ(majorPlaces(division), (QVector<double>{0.0, 0.25, 0.5, 0.75}));
+    EXPECT_EQ(division.makeAxis()->maxValue(), 8.0);
+}
+
+TEST(AxisDivisionTest, RangesRoundOutwardsToMinorDivisionsAndNeverInwards)
+{
+    const struct
+    {
+        double from, to;
+        std::pair<double, double> rounded;
+    } cases[] = {{0.0, 299.997, {0.0, 300.0}},
+                 {1958.24, 2001.4, {1958.0, 2002.0}},
+                 {-0.473, 0.473, {-0.48, 0.48}},
+                 {0.0, 300.0, {0.0, 300.0}}};
+    for (const auto& c : cases) {
+        const auto rounded = AxisDivision::rounded(c.from, c.to, 10);
+        EXPECT_DOUBLE_EQ(rounded.first, c.rounded.first);
+        EXPECT_DOUBLE_EQ(rounded.second, c.rounded.second);
+    }
+}
+
+TEST(AxisDivisionTest, RangesWithoutAnExtentAreNotUsable)
+{
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_FALSE(AxisDivision::isUsableRange(1.0, 1.0));
+    EXPECT_FALSE(AxisDivision::isUsableRange(2.0, 1.0));
+    EXPECT_FALSE(AxisDivision::isUsableRange(0.0, std::nan("")));
+    EXPECT_FALSE(AxisDivision::isUsableRange(0.0, infinity));
+    EXPECT_FALSE(AxisDivision::isUsableRange(-1.7e308, 1.7e308));
+    EXPECT_FALSE(AxisDivision::isUsableRange(1e15, 1e15 + 1.0));
+    EXPECT_FALSE(AxisDivision::isUsableRange(0.0, 1e-310));
+    EXPECT_TRUE(AxisDivision::isUsableRange(-1e-9, 1e-9));
+}
+
+} // namespace
+
+} // namespace hosts::charting

@@ -1,0 +1,84 @@
+#include "hosts/charting/AxisView.h"
+
+#include <kestrane/backend/Singleton.h>
+#include <kestrane/backend/TranslationManager.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace hosts::charting {
+
+namespace {
+
+// The labels from left to right.
+QString labels(const AxisView& view)
+{
+    QVector<TickMark> marks = view.marks();
+    std::sort(marks.begin(), marks.end(),
+              [](const TickMark& a, const TickMark& b) { return a.place < b.place; });
+    QStringList lines;
+    for (const TickMark& mark : marks)
+        lines += mark.label;
+    return lines.join(QLatin1Char('|'));
+}
+
+class AxisViewTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        pelorin::utilities::Singleton<pelorin::utilities::TranslationManager>::instance().setLocale(
+            QStringLiteral("C"));
+    }
+};
+
+TEST_F(AxisViewTest, LabelsOfAnAxisShareAPrefixAndHaveTheDigitsThatTheirStepNeeds)
+{
+    const struct
+    {
+        double from, to;
+        int wanted;
+        const char* quantity;
+        const char* labels;
+    } cases[] = {
+        {0.0, 1.0, 4, "voltage", "0 V|0.5 V|1 V"},
+        {0.0, 0.02, 4, "voltage", "0 mV|5 mV|10 mV|15 mV|20 mV"},
+        {0.0, 4000.0, 4, "frequency", "0 kHz|1 kHz|2 kHz|3 kHz|4 kHz"},
+        {0.0, 4000.0, 4, "time", "0 s|1000 s|2000 s|3000 s|4000 s"},
+        {120.001, 120.003, 2, "time", "120.001 s|120.002 s|120.003 s"},
+        {-0.3, 0.1, 4, "", "-0.3|-0.2|-0.1|0|0.1"},
+        {1960.0, 1980.0, 2, "", "1960|1970|1980"},
+        {0.0, 3e6, 3, "", "0|1×10⁶|2×10⁶|3×10⁶"},
+        {1e9, 1e9 + 1e-3, 3, "", "1000000000|1000000000.0005|1000000000.001"},
+    };
+    for (const auto& c : cases) {
+        const AxisDivision division = AxisDivision::of(c.from, c.to, c.wanted, TickPlaces::Moving);
+        EXPECT_EQ(labels(AxisView(division, QLatin1String(c.quantity))).toStdString(), c.labels);
+    }
+}
+
+TEST_F(AxisViewTest, LabelsRelativeToAReferenceShowItAsAPlainZero)
+{
+    const AxisDivision division = AxisDivision::of(10.2, 11.0, 8, TickPlaces::Moving);
+    EXPECT_EQ(labels(AxisView(division, QStringLiteral("time"), 10.6)).toStdString(),
+              "-400 ms|-300 ms|-200 ms|-100 ms|0 ms|+100 ms|+200 ms|+300 ms|+400 ms");
+}
+
+TEST_F(AxisViewTest, MajorTicksComeFirstAndOnlyTheyHaveLabels)
+{
+    const QVector<TickMark> marks =
+        AxisView(AxisDivision::of(0.0, 10.0, 5, TickPlaces::Moving), QString()).marks();
+    ASSERT_EQ(marks.size(), 6 + 5 * 3);
+    for (int i = 0; i < marks.size(); ++i) {
+        EXPECT_EQ(marks[i].major, i < 6);
+        EXPECT_EQ(marks[i].label.isEmpty(), !marks[i].major);
+        EXPECT_GE(marks[i].place, 0.0);
+        EXPECT_LE(marks[i].place, 1.0);
+    }
+    EXPECT_DOUBLE_EQ(marks[0].place, 1.0);
+}
+
+} // namespace
+
+} // namespace hosts::charting

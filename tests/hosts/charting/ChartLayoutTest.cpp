@@ -1,0 +1,140 @@
+#include "hosts/charting/ChartLayout.h"
+#include "hosts/charting/LabelPlacer.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace hosts::charting {
+
+namespace {
+
+// Every character is as wide as every other.
+class Typewriter : public TextMeasure
+{
+public:
+    double width(const QString& text, Style) const override { return 7.0 * text.size(); }
+    double height(Style style) const override { return style == Style::Title ? 19.0 : 14.0; }
+    QString elided(const QString& text, Style, double width) const override
+    {
+        return text.left(std::max(0, int(width / 7.0)));
+    }
+};
+
+const Typewriter typewriter;
+
+TickMark mark(double place, const QString& label, bool major = true)
+{
+    return {place, major, label.isEmpty() ? QStringList() : QStringList{label}};
+}
+
+QVector<QRectF> allTexts(const ChartLayout& layout)
+{
+    QVector<QRectF> places;
+    for (const PlacedText& text : {layout.title, layout.xCaption, layout.yCaption})
+        places.append(text.place);
+    for (const LegendEntry& entry : layout.legend)
+        places.append(entry.name.place);
+    for (const PlacedText& label : layout.tickLabels)
+        places.append(label.place);
+    return places;
+}
+
+void expectApartAndInside(const ChartLayout& layout)
+{
+    const QRectF picture(QPointF(0.0, 0.0), layout.size);
+    const QVector<QRectF> places = allTexts(layout);
+    for (int i = 0; i < places.size(); ++i) {
+        EXPECT_TRUE(places[i].isEmpty() || picture.contains(places[i])) << i;
+        EXPECT_FALSE(places[i].intersects(layout.plot)) << i;
+        for (int j = 0; j < i; ++j)
+            EXPECT_FALSE(places[i].intersects(places[j])) << i << " and " << j;
+    }
+}
+
+std::string labels(const ChartLayout& layout)
+{
+    QStringList texts;
+    for (const PlacedText& label : layout.tickLabels)
+        texts.append(label.text);
+    return texts.join(QLatin1Char('|')).toStdString();
+}
+
+TEST(ChartLayoutTest, TextsNeverOverlapNorPassTheEdge)
+{
+    std::mt19937 random(4);
+    const auto upTo = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    for (int i = 0; i < 300; ++i) {
+        ChartTexts texts;
+        texts.title = QString(upTo(200), QLatin1Char('t'));
+        texts.xCaption = QString(upTo(120), QLatin1Char('x'));
+        texts.yCaption = QString(upTo(120), QLatin1Char('y'));
+        for (int n = upTo(40); n > 0; --n)
+            texts.legend.append(QString(1 + upTo(50), QLatin1Char('l')));
+        for (int n = upTo(20); n >= 0; --n) {
+            texts.xMarks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('1'))));
+            texts.yMarks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('2'))));
+        }
+        expectApartAndInside(
+            ChartLayout::of(QSizeF(300 + upTo(900), 220 + upTo(600)), texts, typewriter));
+    }
+}
+
+TEST(ChartLayoutTest, TheLabelOfHigherRankStays)
+{
+    ChartTexts texts;
+    // Every eighth of 21 labels, then those that are left, and so on; each needs the room of four.
+    for (int i = 0; i <= 20; ++i) {
+        const int index = (i * 8) % 21;
+        texts.xMarks.append(mark(index / 20.0, QStringLiteral("number %1").arg(index, 3)));
+    }
+    const ChartLayout layout = ChartLayout::of(QSizeF(600, 400), texts, typewriter);
+    expectApartAndInside(layout);
+    EXPECT_EQ(labels(layout), "number   0|number   8|number  16|number   4|number  12|number  20");
+}
+
+TEST(ChartLayoutTest, LabelsAtBothEndsOfBothAxesFindRoom)
+{
+    ChartTexts texts;
+    texts.xMarks = {mark(1.0, QStringLiteral("1000000 Hz")),
+                    mark(0.0, QStringLiteral("-0.0001 Hz")), mark(0.1, QString(), false)};
+    texts.yMarks = {mark(1.0, QStringLiteral("1 mV")), mark(0.0, QStringLiteral("-1 mV"))};
+    const ChartLayout layout = ChartLayout::of(QSizeF(400, 300), texts, typewriter);
+    EXPECT_EQ(labels(layout), "1000000 Hz|-0.0001 Hz|1 mV|-1 mV");
+    EXPECT_EQ(layout.tickLabels[0].place.center().x(), layout.plot.right());
+    EXPECT_EQ(layout.tickLabels[1].place.center().x(), layout.plot.left());
+    EXPECT_EQ(layout.tickLabels[2].place.center().y(), layout.plot.top());
+    EXPECT_EQ(layout.tickLabels[2].place.right(), layout.tickLabels[3].place.right());
+}
+
+TEST(ChartLayoutTest, TheLegendCountsTheNamesThatHaveNoRoom)
+{
+    ChartTexts texts;
+    for (int i = 0; i < 40; ++i)
+        texts.legend.append(QStringLiteral("channel %1").arg(i));
+    const ChartLayout layout = ChartLayout::of(QSizeF(500, 300), texts, typewriter);
+    const LegendEntry last = layout.legend.last();
+    EXPECT_EQ(last.curve, -1);
+    EXPECT_EQ(last.name.text, QStringLiteral("and %1 more").arg(40 - (layout.legend.size() - 1)));
+    EXPECT_GT(layout.plot.height(), 150.0);
+    texts.legend = texts.legend.mid(0, 3);
+    EXPECT_EQ(ChartLayout::of(QSizeF(500, 300), texts, typewriter).legend.last().curve, 2);
+}
+
+TEST(LabelPlacerTest, PlacesKeepTheGapAndTheBounds)
+{
+    LabelPlacer placer(QRectF(0, 0, 100, 50), QSizeF(8, 2));
+    EXPECT_TRUE(placer.take(QRectF(0, 0, 20, 10)));
+    EXPECT_FALSE(placer.take(QRectF(27, 0, 20, 10)));
+    EXPECT_TRUE(placer.take(QRectF(28, 0, 20, 10)));
+    EXPECT_FALSE(placer.take(QRectF(0, 11, 20, 10)));
+    EXPECT_TRUE(placer.take(QRectF(0, 12, 20, 10)));
+    EXPECT_FALSE(placer.take(QRectF(81, 0, 20, 10)));
+    EXPECT_TRUE(placer.take(QRectF(80, 40, 20, 10)));
+    EXPECT_FALSE(placer.take(QRectF(60, 20, 0, 10)));
+    EXPECT_FALSE(placer.take(QRectF(qQNaN(), 20, 10, 10)));
+}
+
+} // namespace
+
+} // namespace hosts::charting

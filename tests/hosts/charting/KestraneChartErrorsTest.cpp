@@ -1,0 +1,111 @@
+#include "tests/hosts/charting/ChartRun.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+namespace hosts::charting {
+
+namespace {
+
+struct Case
+{
+    const char* arguments;
+    int exitCode;
+    const char* error; ///< What the line contains.
+};
+
+class KestraneChartErrorsTest : public testing::Test
+{
+protected:
+    KestraneChartErrorsTest()
+    {
+        chart.write("in.csv", "time,a,b\n0,1,4\n1,2,5\n2,3,\n3,4,\n4,5,5\n");
+        chart.write("empty.csv", QByteArray());
+        chart.write("rubbish.csv", QByteArray("\x00\x01\xff\xfe", 4).repeated(100));
+        chart.write("text.csv", "a,b\nx,y\nz,w\n");
+        chart.write("far.csv", "a\n1.7e308\n-1.7e308\n");
+        chart.write("out.png", "before");
+        QDir(chart.path(".")).mkdir("folder");
+        QDir(chart.path(".")).mkdir("folder.png");
+        files = QDir(chart.path(".")).entryList();
+    }
+
+    void expectRefused(const Case& c)
+    {
+        const QStringList arguments = QString::fromUtf8(c.arguments).split(QLatin1Char(' '));
+        EXPECT_EQ(chart.run(arguments), c.exitCode) << c.arguments;
+        const QString line = chart.errors();
+        EXPECT_TRUE(line.startsWith(QLatin1String("kestrane-chart: "))) << c.arguments;
+        EXPECT_EQ(line.count(QLatin1Char('\n')), 1) << line.toStdString();
+        EXPECT_TRUE(line.contains(QString::fromUtf8(c.error))) << line.toStdString();
+        EXPECT_EQ(chart.output(), QString()) << c.arguments;
+        EXPECT_EQ(QDir(chart.path(".")).entryList(), files) << c.arguments;
+        EXPECT_EQ(chart.read("out.png"), QByteArray("before")) << c.arguments;
+    }
+
+    ChartRun chart;
+    QStringList files;
+};
+
+TEST_F(KestraneChartErrorsTest, WrongUsageIsSaidInOneLineAndExitsWithTwo)
+{
+    const Case cases[] = {
+        {"in.csv", 2, "--output is required"},
+        {"-o out.png", 2, "INPUT is required"},
+        {"in.csv -o out.png --bogus", 2, "--bogus"},
+        {"in.csv -o out.gif", 2, "out.gif: the name must end in .png, .svg or .pdf"},
+        {"in.csv -o out", 2, "out: the name must end in"},
+        {"in.csv -o out.png --size 100x100", 2, "--size 100x100: give WIDTHxHEIGHT"},
+        {"in.csv -o out.png --size 1000", 2, "--size 1000: give WIDTHxHEIGHT"},
+        {"in.csv -o out.png --size 99999x99999", 2, "is too large"},
+        {"in.csv -o out.png --dpi 0", 2, "--dpi 0"},
+        {"in.csv -o out.png --dpi nan", 2, "--dpi: not a finite number"},
+        {"in.csv -o out.png --dpi x", 2, "--dpi"},
+        {"in.csv -o out.png --from 3 --to 1", 2, "--from 3 --to 1: the range is empty"},
+        {"in.csv -o out.png --from nan", 2, "--from: not a finite number"},
+        {"in.csv -o out.png --to 1e999", 2, "--to: not a finite number"},
+        {"in.csv -o out.png --bottom 1 --top 1", 2, "--bottom 1 --top 1: the range is empty"},
+        {"in.csv -o out.png --from 1 --to 1.0000000000001", 2, "too narrow"},
+        {"in.csv -o out.png --step 0", 2, "--step: must be greater than 0"},
+        {"in.csv -o out.png --symbols -1", 2, "--symbols"},
+        {"in.csv -o out.png --channel 0", 2, "--channel 0"},
+        {"in.csv -o out.png --x-quantity tme", 2, "unknown quantity 'tme'; there are"},
+        {"in.csv -o out.png --x-unit s --x-quantity time", 2, "--x-quantity excludes --x-unit"},
+        {"in.csv -o out.png --look blue", 2, "--look"},
+        {"in.csv -o out.png --legend 1 --legend 2 --legend 3", 2, "3 names, but only 2 to draw"},
+        {"out.png -o out.png", 2, "out.png: would be overwritten by the picture"},
+        {"in.csv -o ./folder/../a\nb\x01.gif", 2, "a?b?.gif: the name must end"},
+    };
+    for (const Case& c : cases)
+        expectRefused(c);
+}
+
+TEST_F(KestraneChartErrorsTest, WorkThatFailsIsSaidInOneLineAndExitsWithOne)
+{
+    const Case cases[] = {
+        {"none.csv -o out.png", 1, "none.csv: "},
+        {"folder -o out.png", 1, "folder: "},
+        {"empty.csv -o out.png", 1, "empty.csv: "},
+        {"rubbish.csv -o out.png", 1, "rubbish.csv"},
+        {"text.csv -o out.png", 1, "text.csv: "},
+        {"/dev/zero -o out.png", 1, "/dev/zero: "},
+        {"in.csv none.csv -o out.png", 1, "none.csv: "},
+        {"in.csv -o out.png --column c", 1, "in.csv: "},
+        {"in.csv -o out.png --from 100", 1, "--from 100: the data go from 0 to 4"},
+        {"in.csv -o out.png --from 7 --to 9", 1, "--from 7 --to 9: the data go from 0 to 4"},
+        {"in.csv -o out.png --bottom 50", 1, "--bottom 50: the data go from 1 to 5"},
+        {"in.csv -o out.png --column b --from 1.5 --to 3.5", 1,
+         "--from 1.5 --to 3.5: a gap in the data"},
+        {"far.csv -o out.png", 1, "too far apart to draw"},
+        {"in.csv -o folder.png", 1, "folder.png: is there and is no file"},
+        {"in.csv -o none/out.png", 1, "none: there is no such folder"},
+        {"in.csv -o /proc/out.png", 1, "/proc/out.png: cannot be written: "},
+    };
+    for (const Case& c : cases)
+        expectRefused(c);
+}
+
+} // namespace
+
+} // namespace hosts::charting

@@ -1,0 +1,146 @@
+#include "tests/hosts/charting/ChartRun.h"
+
+#include "hosts/charting/Look.h"
+
+#include <QImage>
+#include <QRegularExpression>
+#include <QSvgRenderer>
+
+#include <gtest/gtest.h>
+
+namespace hosts::charting {
+
+namespace {
+
+QStringList repeated(const QString& value, int times)
+{
+    QStringList values;
+    for (int i = 0; i < times; ++i)
+        values.append(value);
+    return values;
+}
+
+// The rows of a column of pixels in which there is the first curve: first and last, or -1.
+std::pair<int, int> rowsOfCurve(const QImage& image, int x)
+{
+    const QColor curve = Look::light().curveColor(0);
+    std::pair<int, int> rows = {-1, -1};
+    for (int y = 0; y < image.height(); ++y) {
+        const QColor color = image.pixelColor(x, y);
+        if (std::abs(color.red() - curve.red()) + std::abs(color.blue() - curve.blue()) < 90) {
+            rows.first = rows.first < 0 ? y : rows.first;
+            rows.second = y;
+        }
+    }
+    return rows;
+}
+
+TEST(KestraneChartTest, DrawsValuesAtTheirHeightAndLeavesGapsOpen)
+{
+    ChartRun chart;
+    chart.writeColumn("in.csv", repeated("2", 400) + repeated("", 200) + repeated("8", 401));
+    ASSERT_EQ(chart.run({"in.csv", "-o", "out.png", "--from", "0", "--to", "1000", "--bottom", "0",
+                         "--top", "10", "--size", "600x400", "--dpi", "192"}),
+              0)
+        << chart.errors().toStdString();
+    EXPECT_EQ(chart.errors(), QString());
+    const QImage image(chart.path("out.png"));
+    ASSERT_EQ(image.size(), QSize(1200, 800));
+    EXPECT_EQ(image.dotsPerMeterX(), 7559);
+
+    const auto low = rowsOfCurve(image, 300);
+    const auto gap = rowsOfCurve(image, 630);
+    const auto high = rowsOfCurve(image, 1000);
+    ASSERT_GE(low.first, 0);
+    ASSERT_GE(high.first, 0);
+    EXPECT_EQ(gap.first, -1);
+    EXPECT_LE(low.second - low.first, 4);
+    // The plot from 0 to 10 takes most of the picture; 2 and 8 are six tenths of it apart.
+    const double plotHeight = (low.first - high.first) / 0.6;
+    EXPECT_GT(plotHeight, 650.0);
+    EXPECT_LT(plotHeight, 780.0);
+}
+
+TEST(KestraneChartTest, ADenseSignalShowsItsWholeHeightInEveryColumn)
+{
+    ChartRun chart;
+    QStringList values;
+    for (int i = 0; i < 100000; ++i)
+        values.append(i % 7 == 0 ? QStringLiteral("1") : QStringLiteral("-1"));
+    chart.writeColumn("in.csv", values);
+    ASSERT_EQ(chart.run({"in.csv", "-o", "out.png", "--bottom", "-1", "--top", "1"}), 0);
+    const QImage image(chart.path("out.png"));
+    for (int x = 100; x < 900; ++x) {
+        const auto rows = rowsOfCurve(image, x);
+        ASSERT_GT(rows.second - rows.first, 500) << x;
+    }
+}
+
+TEST(KestraneChartTest, MarksTheSamplesWhenTheyAreFarEnoughApart)
+{
+    ChartRun chart;
+    chart.writeColumn("in.csv", repeated("1", 300) + repeated("2", 300));
+    const QRegularExpression symbol(QStringLiteral("<(circle|ellipse) "));
+    const QStringList arguments = {"in.csv", "-o", "out.svg", "--from", "100.5", "--to"};
+    ASSERT_EQ(chart.run(arguments + QStringList{"120.5"}), 0);
+    EXPECT_EQ(QString::fromUtf8(chart.read("out.svg")).count(symbol), 20);
+    ASSERT_EQ(chart.run(arguments + QStringList{"120.5", "--symbols", "100"}), 0);
+    EXPECT_EQ(QString::fromUtf8(chart.read("out.svg")).count(symbol), 0);
+    ASSERT_EQ(chart.run(arguments + QStringList{"500"}), 0);
+    EXPECT_EQ(QString::fromUtf8(chart.read("out.svg")).count(symbol), 0);
+}
+
+TEST(KestraneChartTest, WritesVectorFormatsThatOthersCanRead)
+{
+    ChartRun chart;
+    chart.write("in.csv", "time,first,second\n0,1,4\n0.5,2,5\n1,3,6\n");
+    const QStringList texts = {"--title",  "Ä < & > B", "--y-caption",  "Höhe\nhere",
+                               "--legend", "one",       "--x-quantity", "time"};
+    ASSERT_EQ(chart.run(QStringList{"in.csv", "-o", "out.svg"} + texts), 0);
+    const QSvgRenderer svg(chart.path("out.svg"));
+    ASSERT_TRUE(svg.isValid());
+    EXPECT_EQ(svg.viewBox(), QRect(0, 0, 1000, 600));
+    const QString source = QString::fromUtf8(chart.read("out.svg"));
+    for (const char* const text : {">Ä &lt; &amp; &gt; B<", ">Höhe here<", ">one<", ">second<"})
+        EXPECT_TRUE(source.contains(QString::fromUtf8(text))) << text;
+
+    ASSERT_EQ(chart.run(QStringList{"in.csv", "-o", "out.pdf", "--size", "800x400"} + texts), 0);
+    const QByteArray pdf = chart.read("out.pdf");
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
+    EXPECT_TRUE(pdf.trimmed().endsWith("%%EOF"));
+    EXPECT_TRUE(pdf.contains("/MediaBox [0 0 600.000000 300.000000]"))
+        << pdf.mid(pdf.indexOf("/MediaBox"), 60).toStdString();
+}
+
+TEST(KestraneChartTest, DrawsOddDataWithoutComplaint)
+{
+    ChartRun chart;
+    const QStringList columns[] = {{"5", "5", "5"},
+                                   {"0"},
+                                   {"1e300", "-1e300"},
+                                   {"1e-300", "-1e-300"},
+                                   {"1e15", "1000000000000001"},
+                                   {"3", "", "nan", "inf", "4"}};
+    for (const QStringList& column : columns) {
+        chart.writeColumn("in.csv", column);
+        for (const char* const ticks : {"moving", "fixed"}) {
+            EXPECT_EQ(chart.run({"in.csv", "-o", "out.png", "--ticks", ticks}), 0)
+                << column.join(' ').toStdString() << ": " << chart.errors().toStdString();
+            EXPECT_EQ(QImage(chart.path("out.png")).size(), QSize(1000, 600));
+        }
+    }
+}
+
+TEST(KestraneChartTest, PrintsItsHelpAndItsVersion)
+{
+    ChartRun chart;
+    EXPECT_EQ(chart.run({"--version"}), 0);
+    EXPECT_TRUE(chart.output().startsWith(QLatin1String("kestrane-chart ")));
+    EXPECT_EQ(chart.run({"--help"}), 0);
+    for (const char* const option : {"--from", "--y-quantity", "--look", "--time-column"})
+        EXPECT_TRUE(chart.output().contains(QLatin1String(option))) << option;
+}
+
+} // namespace
+
+} // namespace hosts::charting
