@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <iterator>
 #include <new>
@@ -62,8 +63,22 @@ void draw(const chart::Options& options)
     });
 }
 
-// What Qt has to say about its surroundings is not for the user of this program.
-void keepQuiet(QtMsgType, const QMessageLogContext&, const QString&) {}
+// One line, whatever stands in the names of files.
+int complain(std::string message, int status)
+{
+    const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7f'; };
+    std::replace_if(message.begin(), message.end(), isControl, '?');
+    std::fprintf(stderr, "kestrane-chart: %s\n", message.c_str());
+    return status;
+}
+
+// What Qt has to say about its surroundings is not for the user of this program, unless Qt gives
+// up.
+void hearQt(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    if (type == QtFatalMsg)
+        std::_Exit(complain(message.toStdString(), failed));
+}
 
 int run(int argc, char** argv)
 {
@@ -74,22 +89,13 @@ int run(int argc, char** argv)
         return 0;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // Nothing is shown on a screen.
-    qInstallMessageHandler(keepQuiet);
+    qInstallMessageHandler(hearQt);
     int applicationArguments = 1;
     const QGuiApplication application(applicationArguments, argv);
     Kestrane::initialize();
     draw(*options);
     Kestrane::deinitialize();
     return 0;
-}
-
-// One line, whatever stands in the names of files.
-int complain(std::string message, int status)
-{
-    const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7f'; };
-    std::replace_if(message.begin(), message.end(), isControl, '?');
-    std::fprintf(stderr, "kestrane-chart: %s\n", message.c_str());
-    return status;
 }
 
 } // namespace

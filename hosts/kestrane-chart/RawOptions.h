@@ -1,0 +1,39 @@
+#ifndef HOSTS_KESTRANE_CHART_RAWOPTIONS_H
+#define HOSTS_KESTRANE_CHART_RAWOPTIONS_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+namespace hosts::chart {
+
+/// The options as they stand on the command line, before they are checked and put in order.
+struct RawOptions
+{
+    /// Tells @p app of all options, to be stored in this object, and of what its help says.
+    void addTo(CLI::App& app);
+
+    std::vector<std::string> inputs;
+    std::string output;
+    std::vector<std::string> columns;
+    std::vector<int> channels;
+    std::string timeColumn;
+    std::vector<std::string> legend;
+    std::string title;
+    std::string ticks = "moving";
+    std::string look = "light";
+    std::string size = "1000x600";
+    std::string xCaption, yCaption, xQuantity, yQuantity, xUnit, yUnit;
+    std::optional<double> start, step, from, to, bottom, top, xReference, yReference;
+    double dpi = 96.0;
+    double symbols = 8.0;
+    bool noLegend = false;
+};
+
+} // namespace hosts::chart
+
+#endif
