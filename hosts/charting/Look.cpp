@@ -54,7 +54,7 @@ Look Look::dark()
 QColor Look::curveColor(int index) const
 {
     const int count = int(curveColors.size());
-    const QColor color = curveColors.at(index % count);
+    QColor color = curveColors.at(index % count);
     const bool onDark = background.lightness() < 128;
     switch ((index / count) % 3) {
     case 1:

@@ -1,5 +1,6 @@
 // Qt's offscreen platform never destroys its one screen. The leak sanitizer calls these functions,
 // if there are any, and passes over what the first one names.
+// NOLINTBEGIN(bugprone-reserved-identifier): their names are the sanitizer's.
 extern "C" {
 __attribute__((visibility("default"))) const char* __lsan_default_suppressions();
 __attribute__((visibility("default"))) const char* __lsan_default_options();
@@ -17,3 +18,4 @@ const char* __lsan_default_options()
 {
     return "print_suppressions=0";
 }
+// NOLINTEND(bugprone-reserved-identifier)

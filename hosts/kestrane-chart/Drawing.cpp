@@ -60,7 +60,7 @@ QString quantityOf(const AxisOptions& axis)
 {
     if (axis.unit.isEmpty())
         return axis.quantity;
-    const QString name = QStringLiteral("in ") + axis.unit;
+    QString name = QStringLiteral("in ") + axis.unit;
     Quantity::Unit unit;
     unit.symbol = axis.unit;
     Singleton<QuantityManager>::instance().add(Quantity(name, {unit}));
