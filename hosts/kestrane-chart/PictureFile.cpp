@@ -63,7 +63,10 @@ void PictureFile::write(const Paint& paint) const
 {
     const QByteArray picture = bytes(paint);
     QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(picture) != picture.size() || !file.commit())
+    // Committing forgets why the bytes before it could not be written: hence the flush.
+    const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                           file.write(picture) == picture.size() && file.flush() && file.commit();
+    if (!isWritten)
         throw WorkError(
             QStringLiteral("%1: cannot be written: %2").arg(m_path, file.errorString()));
 }
