@@ -31,6 +31,19 @@ void run(QPaintDevice& device, double scale, const std::function<void(QPainter&)
     painter.end();
 }
 
+// A disk that gets full takes some of the bytes, and says why when it is to take the rest.
+bool writeAll(QIODevice& file, const QByteArray& bytes)
+{
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 part = file.write(bytes.constData() + written, bytes.size() - written);
+        if (part <= 0)
+            return false;
+        written += part;
+    }
+    return true;
+}
+
 } // namespace
 
 PictureFile::Format PictureFile::formatOf(const QString& path)
@@ -63,10 +76,7 @@ void PictureFile::write(const Paint& paint) const
 {
     const QByteArray picture = bytes(paint);
     QSaveFile file(m_path);
-    // Committing forgets why the bytes before it could not be written: hence the flush.
-    const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                           file.write(picture) == picture.size() && file.flush() && file.commit();
-    if (!isWritten)
+    if (!file.open(QIODevice::WriteOnly) || !writeAll(file, picture) || !file.commit())
         throw WorkError(
             QStringLiteral("%1: cannot be written: %2").arg(m_path, file.errorString()));
 }
