@@ -37,8 +37,7 @@ void TranslationManager::setLocale(const QString& locale)
             return;
         m_locale = name;
     }
-    Q_EMIT
-    localeChanged(name);
+    Q_EMIT localeChanged(name);
 }
 
 template<>

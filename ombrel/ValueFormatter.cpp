@@ -165,8 +165,7 @@ const QFlags<ValueFormatter::FormatterOption>& ValueFormatter::options() const
 void ValueFormatter::setOptions(QFlags<FormatterOption> options)
 {
     if (assign(m_options, options))
-        Q_EMIT
-    optionsChanged(options);
+        Q_EMIT optionsChanged(options);
 }
 
 QLocale ValueFormatter::locale() const
@@ -177,8 +176,7 @@ QLocale ValueFormatter::locale() const
 void ValueFormatter::setLocale(const QLocale& locale)
 {
     if (assign(m_locale, locale))
-        Q_EMIT
-    localeChanged(m_locale);
+        Q_EMIT localeChanged(m_locale);
 }
 
 variables::Quantity ValueFormatter::quantity() const
@@ -189,8 +187,7 @@ variables::Quantity ValueFormatter::quantity() const
 void ValueFormatter::setQuantity(const variables::Quantity& quantity)
 {
     if (assign(m_quantity, quantity))
-        Q_EMIT
-    quantityChanged(m_quantity);
+        Q_EMIT quantityChanged(m_quantity);
 }
 
 int ValueFormatter::significantDigits() const
@@ -201,8 +198,7 @@ int ValueFormatter::significantDigits() const
 void ValueFormatter::setSignificantDigits(int digits)
 {
     if (assign(m_significantDigits, digits))
-        Q_EMIT
-    significantDigitsChanged(digits);
+        Q_EMIT significantDigitsChanged(digits);
 }
 
 int ValueFormatter::limitRangeCount() const
@@ -213,8 +209,7 @@ int ValueFormatter::limitRangeCount() const
 void ValueFormatter::setLimitRangeCount(int count)
 {
     if (assign(m_limitRangeCount, count))
-        Q_EMIT
-    limitRangeCountChanged(count);
+        Q_EMIT limitRangeCountChanged(count);
 }
 
 int ValueFormatter::preferredUnit() const
@@ -225,8 +220,7 @@ int ValueFormatter::preferredUnit() const
 void ValueFormatter::setPreferredUnit(int unit)
 {
     if (assign(m_preferredUnit, unit))
-        Q_EMIT
-    preferredUnitChanged(unit);
+        Q_EMIT preferredUnitChanged(unit);
 }
 
 int ValueFormatter::preferredPrefix() const
@@ -237,8 +231,7 @@ int ValueFormatter::preferredPrefix() const
 void ValueFormatter::setPreferredPrefix(int exponent)
 {
     if (assign(m_preferredPrefix, exponent))
-        Q_EMIT
-    preferredPrefixChanged(exponent);
+        Q_EMIT preferredPrefixChanged(exponent);
 }
 
 QString ValueFormatter::preferredUnitSystem() const
@@ -249,8 +242,7 @@ QString ValueFormatter::preferredUnitSystem() const
 void ValueFormatter::setPreferredUnitSystem(const QString& system)
 {
     if (assign(m_preferredUnitSystem, system))
-        Q_EMIT
-    preferredUnitSystemChanged(m_preferredUnitSystem);
+        Q_EMIT preferredUnitSystemChanged(m_preferredUnitSystem);
 }
 
 } // namespace utilities

@@ -76,26 +76,21 @@ void Axis::update()
 
 void Axis::emitParametersChanged()
 {
-    Q_EMIT
-    parametersChanged(this);
+    Q_EMIT parametersChanged(this);
 }
 
 void Axis::emitMinValChanged(bool withParamChange)
 {
-    Q_EMIT
-    minValueChanged(minValue());
+    Q_EMIT minValueChanged(minValue());
     if (withParamChange)
-        Q_EMIT
-    parametersChanged(this);
+        Q_EMIT parametersChanged(this);
 }
 
 void Axis::emitMaxValChanged(bool withParamChange)
 {
-    Q_EMIT
-    maxValueChanged(maxValue());
+    Q_EMIT maxValueChanged(maxValue());
     if (withParamChange)
-        Q_EMIT
-    parametersChanged(this);
+        Q_EMIT parametersChanged(this);
 }
 
 void Axis::updateRanking(QVector<Tick>& ticks, bool isMajor)

@@ -168,8 +168,7 @@ void FixedPositionLinearAxis::setNumMajorDivisions(int numDivisions)
     if (numDivisions == m_numMajorDivisions)
         return;
     m_numMajorDivisions = numDivisions;
-    Q_EMIT
-    numMajorDivisionsChanged(numDivisions);
+    Q_EMIT numMajorDivisionsChanged(numDivisions);
     updateInternalValues();
 }
 
@@ -178,8 +177,7 @@ void FixedPositionLinearAxis::setNumMinorDivisions(int numDivisions)
     if (numDivisions == m_numMinorDivisions)
         return;
     m_numMinorDivisions = numDivisions;
-    Q_EMIT
-    numMinorDivisionsChanged(numDivisions);
+    Q_EMIT numMinorDivisionsChanged(numDivisions);
     updateInternalValues();
 }
 
@@ -188,8 +186,7 @@ void FixedPositionLinearAxis::setOffset(double offset)
     if (ignoredBySetter(offset, m_offset))
         return;
     m_offset = offset;
-    Q_EMIT
-    offsetChanged(offset);
+    Q_EMIT offsetChanged(offset);
     updateInternalValues();
 }
 
@@ -198,8 +195,7 @@ void FixedPositionLinearAxis::setScale(double scale)
     if (ignoredBySetter(scale, m_scale))
         return;
     m_scale = scale;
-    Q_EMIT
-    scaleChanged(scale);
+    Q_EMIT scaleChanged(scale);
     updateInternalValues();
 }
 
@@ -210,11 +206,9 @@ void FixedPositionLinearAxis::setOffsetAndScale(double offset, double scale)
     m_offset = offset;
     m_scale = scale;
     if (offsetDiffers)
-        Q_EMIT
-    offsetChanged(offset);
+        Q_EMIT offsetChanged(offset);
     if (scaleDiffers)
-        Q_EMIT
-    scaleChanged(scale);
+        Q_EMIT scaleChanged(scale);
     updateInternalValues();
 }
 
@@ -223,8 +217,7 @@ void FixedPositionLinearAxis::setAnchor(double anchor)
     if (ignoredBySetter(anchor, m_anchor))
         return;
     m_anchor = anchor;
-    Q_EMIT
-    anchorChanged(anchor);
+    Q_EMIT anchorChanged(anchor);
     updateInternalValues();
 }
 
@@ -233,8 +226,7 @@ void FixedPositionLinearAxis::setOffsetIsAdded(bool offsetIsAdded)
     if (offsetIsAdded == m_offsetIsAdded)
         return;
     m_offsetIsAdded = offsetIsAdded;
-    Q_EMIT
-    offsetIsAddedChanged(offsetIsAdded);
+    Q_EMIT offsetIsAddedChanged(offsetIsAdded);
     updateInternalValues();
 }
 
@@ -258,11 +250,9 @@ void FixedPositionLinearAxis::scrollAxis(double /*at*/, double by,
     if (candidate == m_offset)
         return;
     m_offset = candidate;
-    Q_EMIT
-    offsetChanged(candidate);
+    Q_EMIT offsetChanged(candidate);
     updateInternalValues();
-    Q_EMIT
-    axisChangedViaScalingOrScrolling();
+    Q_EMIT axisChangedViaScalingOrScrolling();
 }
 
 void FixedPositionLinearAxis::scaleAxis(double at, double by,
@@ -282,11 +272,9 @@ void FixedPositionLinearAxis::scaleAxis(double at, double by,
     if (candidate == m_scale)
         return;
     m_scale = candidate;
-    Q_EMIT
-    scaleChanged(candidate);
+    Q_EMIT scaleChanged(candidate);
     updateInternalValues();
-    Q_EMIT
-    axisChangedViaScalingOrScrolling();
+    Q_EMIT axisChangedViaScalingOrScrolling();
 }
 
 void FixedPositionLinearAxis::updateInternalValues()
@@ -312,8 +300,7 @@ void FixedPositionLinearAxis::updateInternalValues()
 void FixedPositionLinearAxis::invalidateTicks()
 {
     m_ticksDirty = true;
-    Q_EMIT
-    ticksUpdated();
+    Q_EMIT ticksUpdated();
 }
 
 void FixedPositionLinearAxis::updateTicks()

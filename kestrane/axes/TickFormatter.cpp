@@ -51,10 +51,7 @@ TickFormatter::TickFormatter(QObject* parent)
 
     connect(
         this, &ValueFormatter::quantityChanged, this,
-        [this](const Quantity& quantity) {
-            Q_EMIT
-            quantityChanged(quantity);
-        },
+        [this](const Quantity& quantity) { Q_EMIT quantityChanged(quantity); },
         Qt::DirectConnection);
     connect(&translations(), &TranslationManager::localeChanged, this,
             [this](const QString& name) { setLocale(QLocale(name)); });
@@ -103,8 +100,7 @@ void TickFormatter::setSizeTemplate(const QString& sizeTemplate)
     if (sizeTemplate == m_sizeTemplate)
         return;
     m_sizeTemplate = sizeTemplate;
-    Q_EMIT
-    sizeTemplateChanged(sizeTemplate);
+    Q_EMIT sizeTemplateChanged(sizeTemplate);
 }
 
 } // namespace chart
