@@ -29,7 +29,8 @@ namespace chart {
 ///     value at p can be written in that mode.
 ///  2. minValue() lies at position 0.0 and maxValue() at 1.0, up to rounding.
 ///  3. NaN given to transform() or inverseTransform() yields NaN.
-///  4. A gesture with a base gives the same result however many intermediate calls were made.
+///  4. A gesture with a base gives the same result however many intermediate calls were made, as
+///     long as no limit stops one of them.
 ///
 /// Nothing here throws or validates: bad numbers travel on as numbers.
 ///
@@ -139,8 +140,8 @@ public:
     virtual bool operator!=(const Axis& other) const;
 
 Q_SIGNALS:
-    /// Anything that changes the mapping or the ticks has changed; @p axis is the axis itself.
-    void parametersChanged(pelorin::ui::chart::Axis* axis);
+    /// Anything that changes the mapping or the ticks has changed; the argument is this axis.
+    void parametersChanged(pelorin::ui::chart::Axis*);
 
     void minValueChanged(double minVal);
     void maxValueChanged(double maxVal);

@@ -330,11 +330,6 @@ void FixedPositionLinearAxis::updateTicks()
     storeTicks(major, minor);
 }
 
-bool FixedPositionLinearAxis::ticksDirty() const
-{
-    return m_ticksDirty;
-}
-
 void FixedPositionLinearAxis::storeTicks(QVector<Tick>& major, QVector<Tick>& minor)
 {
     updateRanking(major, true);

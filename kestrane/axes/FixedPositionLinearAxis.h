@@ -13,8 +13,8 @@ namespace chart {
 ///
 /// With full = numMajorDivisions * scale and shift = offset if offsetIsAdded, else -offset:
 ///
-///     minValue = -anchor * full - shift          position(v) = (v + shift) / full + anchor
-///     maxValue = minValue + full                 value(p)    = (p - anchor) * full - shift
+///     minValue = -anchor * full - shift      position(v) = (v + shift) * (1 / full) + anchor
+///     maxValue = minValue + full             value(p)    = (p - anchor) * full - shift
 ///
 /// so that the logical value -shift (offset itself, unless it is added) stands at axis position
 /// anchor. Transforms are O(1); ticks are built on demand, once per change, in O(n log n).
@@ -111,7 +111,8 @@ public Q_SLOTS:
                     double pixelSize = 1e-18) override;
 
     /// Changes scale() so that, with anchor 0.0, the value gripped at @p at ends up at @p at -
-    /// @p by; the value at anchor() stays. @p bottomLimit plays no part.
+    /// @p by; the value at anchor() stays. @p bottomLimit plays no part; @p topLimit is held
+    /// against minValue() as it is now, also with a base.
     void scaleAxis(double at, double by,
                    const boost::shared_ptr<const ScrollScaleState>& base =
                        boost::shared_ptr<const ScrollScaleState>(),
@@ -129,15 +130,13 @@ protected:
     /// Rebuilds the ticks if they are out of date. Called by majorTicks() and minorTicks().
     virtual void updateTicks();
 
-    /// True while the ticks are out of date.
-    bool ticksDirty() const;
-
-    /// Ranks the two lists, which stand in ascending order of position, and makes them the
-    /// present ticks.
-    void storeTicks(QVector<Tick>& major, QVector<Tick>& minor);
-
 private:
+    friend class LinearAxis; // Places the ticks of this class elsewhere.
     struct FPLScrollScaleState;
+
+    // Ranks the two lists, which stand in ascending order of position, and makes them the present
+    // ticks.
+    void storeTicks(QVector<Tick>& major, QVector<Tick>& minor);
 
     int m_numMajorDivisions;
     int m_numMinorDivisions;

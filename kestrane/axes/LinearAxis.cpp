@@ -24,7 +24,7 @@ void LinearAxis::updateTicks()
 {
     const int n = numMajorDivisions();
     const int m = numMinorDivisions();
-    if (!ticksDirty() || n == 0 || m == 0)
+    if (!m_ticksDirty || n == 0 || m == 0)
         return;
 
     const double majorStep = 1.0 / n;

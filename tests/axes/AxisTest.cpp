@@ -4,6 +4,7 @@
 
 #include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
+#include "tests/support/Ticks.h"
 
 #include <QMetaMethod>
 #include <QMetaProperty>
@@ -17,7 +18,10 @@ using pelorin::ui::chart::FixedPositionLinearAxis;
 using pelorin::ui::chart::LinearAxis;
 using testing::ElementsAre;
 using tests::NaN;
+using tests::ranks;
 using tests::SignalLog;
+using tests::Ticks;
+using tests::values;
 
 namespace {
 
@@ -30,28 +34,12 @@ public:
     using Axis::updateRanking;
 };
 
-QVector<Axis::Tick> unrankedTicks(int count)
+Ticks unrankedTicks(int count)
 {
-    QVector<Axis::Tick> ticks;
+    Ticks ticks;
     for (int i = 0; i < count; ++i)
         ticks.append(Axis::Tick(i, i, 0.0, {}, false));
     return ticks;
-}
-
-std::vector<double> logicalPositions(const QVector<Axis::Tick>& ticks)
-{
-    std::vector<double> result;
-    for (const Axis::Tick& tick : ticks)
-        result.push_back(tick.logicalPosition());
-    return result;
-}
-
-std::vector<double> ranks(const QVector<Axis::Tick>& ticks)
-{
-    std::vector<double> result;
-    for (const Axis::Tick& tick : ticks)
-        result.push_back(tick.rank());
-    return result;
 }
 
 // The methods of one kind that a class adds to the meta-object of its base, in order.
@@ -96,6 +84,7 @@ TEST(AxisTickTest, OnlyValidTicksAtTheSamePlaceAreEqual)
     const Axis::Tick invalid;
     EXPECT_FALSE(invalid == invalid);
     EXPECT_FALSE(invalid == Axis::Tick(0.0, 0.0, 0.0, {}, false));
+    EXPECT_FALSE(Axis::Tick(0.0, 0.0, 0.0, {}, false) == invalid);
     EXPECT_FALSE(invalid.isValid());
     EXPECT_FALSE(invalid.isInvisible());
     EXPECT_EQ(invalid.rank(), -100.0);
@@ -127,14 +116,14 @@ TEST(AxisRankingTest, BisectionGivesTheEndsThenTheMiddleThenTheQuarters)
 {
     OpenAxis axis;
 
-    QVector<Axis::Tick> five = unrankedTicks(5);
+    Ticks five = unrankedTicks(5);
     axis.updateRanking(five, false);
-    EXPECT_THAT(logicalPositions(five), ElementsAre(4, 0, 2, 3, 1));
+    EXPECT_THAT(values(five), ElementsAre(4, 0, 2, 3, 1));
     EXPECT_THAT(ranks(five), ElementsAre(900.0, 500.0, 350.0, 200.0, 150.0));
 
-    QVector<Axis::Tick> nine = unrankedTicks(9);
+    Ticks nine = unrankedTicks(9);
     axis.updateRanking(nine, true);
-    EXPECT_THAT(logicalPositions(nine), ElementsAre(8, 0, 4, 6, 2, 7, 5, 3, 1));
+    EXPECT_THAT(values(nine), ElementsAre(8, 0, 4, 6, 2, 7, 5, 3, 1));
     EXPECT_EQ(nine.first().rank(), (8.0 / 9.0 + 1.0) * 500.0 + 1500.0);
     EXPECT_EQ(nine.at(1).rank(), 2000.0);
 }
@@ -143,25 +132,25 @@ TEST(AxisRankingTest, ShortListsAndPresetRanks)
 {
     OpenAxis axis;
     for (const bool isMajor : {false, true}) {
-        QVector<Axis::Tick> none;
+        Ticks none;
         axis.updateRanking(none, isMajor);
         EXPECT_TRUE(none.isEmpty());
     }
 
-    QVector<Axis::Tick> one = unrankedTicks(1);
+    Ticks one = unrankedTicks(1);
     axis.updateRanking(one, true);
     EXPECT_THAT(ranks(one), ElementsAre(2000.0));
 
-    QVector<Axis::Tick> two = unrankedTicks(2);
+    Ticks two = unrankedTicks(2);
     axis.updateRanking(two, false);
-    EXPECT_THAT(logicalPositions(two), ElementsAre(1, 0));
+    EXPECT_THAT(values(two), ElementsAre(1, 0));
     EXPECT_THAT(ranks(two), ElementsAre(750.0, 500.0));
 
-    QVector<Axis::Tick> preset = unrankedTicks(3);
+    Ticks preset = unrankedTicks(3);
     preset[1].setRank(2500.0);
     preset[2].setRank(NaN);
     axis.updateRanking(preset, true);
-    EXPECT_THAT(logicalPositions(preset), ElementsAre(1, 0, 2));
+    EXPECT_THAT(values(preset), ElementsAre(1, 0, 2));
     EXPECT_EQ(preset.first().rank(), 4000.0);
 }
 
@@ -169,8 +158,8 @@ TEST(AxisRankingTest, EveryMajorTickOutranksEveryMinorTick)
 {
     OpenAxis axis;
     for (const int count : {1, 2, 3, 10, 64, 1000}) {
-        QVector<Axis::Tick> major = unrankedTicks(count);
-        QVector<Axis::Tick> minor = unrankedTicks(count);
+        Ticks major = unrankedTicks(count);
+        Ticks minor = unrankedTicks(count);
         axis.updateRanking(major, true);
         axis.updateRanking(minor, false);
         EXPECT_GT(major.last().rank(), 1500.0) << count;
@@ -225,33 +214,69 @@ TEST(AxisMetaObjectTest, SignalsAndSlotsStandInOrder)
     EXPECT_EQ(LinearAxis().metaObject(), &linear);
 }
 
-TEST(AxisMetaObjectTest, PropertiesReadTheAxis)
+TEST(AxisMetaObjectTest, PropertiesAreReadWrittenAndTellOfChanges)
 {
-    FixedPositionLinearAxis axis(2.0, 100.0, 0.5);
-
+    struct Row
+    {
+        const char* name;
+        double value;
+        bool isStored;
+        const char* notify; // "" for a constant.
+    };
+    const Row rows[] = {
+        {"minValue", 90.0, false, "minValueChanged"},
+        {"maxValue", 110.0, false, "maxValueChanged"},
+        {"scaleMode", 1.0, true, ""},
+        {"numMajorDivisions", 10.0, true, "numMajorDivisionsChanged"},
+        {"numMinorDivisions", 5.0, true, "numMinorDivisionsChanged"},
+        {"offset", 100.0, true, "offsetChanged"},
+        {"scale", 2.0, true, "scaleChanged"},
+        {"anchor", 0.5, true, "anchorChanged"},
+        {"offsetIsAdded", 0.0, true, "offsetIsAddedChanged"},
+    };
+    FixedPositionLinearAxis axis(2.0, 100.0, 0.5, false, 10, 5);
     const QMetaObject* meta = axis.metaObject();
-    const QMetaProperty minValue = meta->property(meta->indexOfProperty("minValue"));
-    EXPECT_EQ(minValue.read(&axis).toDouble(), 90.0);
-    EXPECT_FALSE(minValue.isWritable() || minValue.isStored() || minValue.isDesignable());
-    EXPECT_EQ(minValue.notifySignal().name(), "minValueChanged");
-
-    const QMetaProperty mode = meta->property(meta->indexOfProperty("scaleMode"));
-    EXPECT_TRUE(mode.isConstant() && mode.isEnumType());
-    EXPECT_EQ(mode.read(&axis).toInt(), 1);
-    EXPECT_EQ(mode.enumerator().keyToValue("Logarithmic"), 0);
-
-    EXPECT_TRUE(axis.setProperty("offset", 50.0));
-    EXPECT_EQ(axis.property("maxValue").toDouble(), 60.0);
+    ASSERT_EQ(meta->propertyCount() - QObject::staticMetaObject.propertyCount(), 9);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QMetaProperty property = meta->property(meta->indexOfProperty(row.name));
+        EXPECT_EQ(property.read(&axis).toDouble(), row.value);
+        EXPECT_EQ(property.isStored() && property.isDesignable(), row.isStored);
+        EXPECT_EQ(QByteArray(property.notifySignal().name()), row.notify);
+        EXPECT_EQ(property.isConstant(), property.isEnumType());
+        const bool isParameter = row.isStored && !property.isConstant();
+        EXPECT_EQ(property.isWritable(), isParameter);
+        if (isParameter) {
+            EXPECT_TRUE(property.write(&axis, 1));
+            EXPECT_EQ(property.read(&axis).toDouble(), 1.0);
+        }
+    }
+    const auto mode = meta->enumerator(meta->indexOfEnumerator("ScaleMode"));
+    EXPECT_EQ(mode.keyToValue("Linear"), 1);
+    EXPECT_EQ(mode.keyToValue("Logarithmic"), 0);
 }
 
-TEST(AxisMetaObjectTest, GesturesCanBeInvokedByNameInTheirShortForm)
+TEST(AxisMetaObjectTest, ShortFormsOfGesturesKnowNoLimits)
 {
-    LinearAxis axis;
-    Axis& base = axis;
+    FixedPositionLinearAxis linear(1e299); // Its own default arguments.
+    linear.scrollAxis(0.0, -1.0);
+    EXPECT_EQ(linear.minValue(), -1e300);
+
+    LinearAxis moved(1e299);
+    Axis& axis = moved; // Those of the contract.
+    axis.scrollAxis(0.0, -1.0);
+    EXPECT_EQ(axis.minValue(), -1e300);
     EXPECT_TRUE(
-        QMetaObject::invokeMethod(&base, "scrollAxis", Q_ARG(double, 0.0), Q_ARG(double, 0.5)));
-    EXPECT_EQ(axis.offset(), 5.0);
-    EXPECT_TRUE(
-        QMetaObject::invokeMethod(&base, "scaleAxis", Q_ARG(double, 0.5), Q_ARG(double, 0.25)));
-    EXPECT_EQ(axis.scale(), 2.0);
+        QMetaObject::invokeMethod(&axis, "scrollAxis", Q_ARG(double, 0.0), Q_ARG(double, 2.0)));
+    EXPECT_EQ(axis.maxValue(), 2e300);
+
+    LinearAxis scaled(1.0);
+    Axis& scaledAxis = scaled;
+    scaledAxis.scaleAxis(1e-9, 1.0); // The span is one pixel.
+    EXPECT_EQ(scaled.scale(), 1e-9 / 1e-18);
+    scaled.scaleAxis(1e-9, 1.0);
+    EXPECT_EQ(scaled.scale(), 1e-9 / 1e-18 * (1e-9 / 1e-18));
+    EXPECT_TRUE(QMetaObject::invokeMethod(&scaledAxis, "scaleAxis", Q_ARG(double, 0.5),
+                                          Q_ARG(double, 0.25)));
+    EXPECT_EQ(scaled.scale(), 2e18);
 }

@@ -3,8 +3,9 @@
 
 #include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
+#include "tests/support/Ticks.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
@@ -13,9 +14,15 @@
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::FixedPositionLinearAxis;
 using pelorin::ui::chart::LinearAxis;
+using testing::ElementsAre;
+using tests::arePlain;
 using tests::Infinity;
 using tests::NaN;
+using tests::Places;
+using tests::places;
+using tests::ranks;
 using tests::SignalLog;
+using tests::values;
 
 namespace {
 
@@ -23,14 +30,6 @@ namespace {
 std::unique_ptr<FixedPositionLinearAxis> centredAxis(bool offsetIsAdded = false)
 {
     return std::make_unique<FixedPositionLinearAxis>(2.0, 100.0, 0.5, offsetIsAdded, 10, 5);
-}
-
-QVector<Axis::Tick> byPosition(QVector<Axis::Tick> ticks)
-{
-    std::sort(ticks.begin(), ticks.end(), [](const Axis::Tick& a, const Axis::Tick& b) {
-        return a.axisPosition() < b.axisPosition();
-    });
-    return ticks;
 }
 
 } // namespace
@@ -77,30 +76,54 @@ TEST(FixedPositionLinearAxisTest, OddNumbersTravelOn)
               Infinity);
 }
 
+TEST(FixedPositionLinearAxisTest, ArithmeticKeepsItsOrder)
+{
+    const FixedPositionLinearAxis axis(0.3, 0.7, 0.1, false, 7);
+    const double full = 7 * 0.3;
+    EXPECT_EQ(axis.minValue(), -0.1 * full - -0.7);
+    EXPECT_EQ(axis.maxValue(), -0.1 * full - -0.7 + full);
+    for (int i = -50; i < 50; ++i) {
+        const double x = i * 0.037;
+        EXPECT_EQ(axis.transform(Axis::Linear, x), (x + -0.7) * (1.0 / full) + 0.1) << x;
+        EXPECT_EQ(axis.inverseTransform(Axis::Linear, x), (x - 0.1) * full - -0.7) << x;
+        EXPECT_EQ(axis.transform(Axis::Logarithmic, x),
+                  axis.transform(Axis::Linear, std::pow(10.0, x)))
+            << x;
+    }
+}
+
 TEST(FixedPositionLinearAxisTest, TicksStandStillWhateverTheValues)
 {
-    const QVector<Axis::Tick> first = byPosition(FixedPositionLinearAxis().majorTicks());
-    ASSERT_EQ(first.size(), 10);
-    EXPECT_TRUE(FixedPositionLinearAxis().minorTicks().isEmpty());
-
-    const auto axis = centredAxis();
-    const QVector<Axis::Tick> major = byPosition(axis->majorTicks());
-    ASSERT_EQ(major.size(), 10);
-    for (int i = 0; i < 10; ++i) {
-        EXPECT_EQ(first.at(i).axisPosition(), i * 0.1);
-        EXPECT_EQ(first.at(i).logicalPosition(), i);
-        EXPECT_EQ(major.at(i).axisPosition(), i * 0.1);
-        EXPECT_EQ(major.at(i).logicalPosition(), 90.0 + 2.0 * i);
-        EXPECT_TRUE(major.at(i).isValid() && !major.at(i).isInvisible());
+    FixedPositionLinearAxis axis(0.3, 0.7, 0.1, false, 7, 3);
+    for (const double offset : {0.7, 1.9}) {
+        axis.setOffset(offset);
+        Places major, minor;
+        for (int i = 0; i < 7; ++i) {
+            major.emplace_back(axis.minValue() + 0.3 * i, i * (1.0 / 7));
+            for (int j = 1; j < 3; ++j)
+                minor.emplace_back(j * (0.3 / 3) + major.back().first,
+                                   j * (1.0 / 7 / 3) + major.back().second);
+        }
+        EXPECT_EQ(places(axis.majorTicks()), major);
+        EXPECT_EQ(places(axis.minorTicks()), minor);
     }
-    const QVector<Axis::Tick> minor = byPosition(axis->minorTicks());
-    ASSERT_EQ(minor.size(), 40);
-    EXPECT_EQ(minor.at(4).logicalPosition(), 92.4);
-    EXPECT_EQ(minor.at(4).axisPosition(), 1 * (0.1 / 5) + 0.1);
+    EXPECT_TRUE(arePlain(axis.majorTicks()) && arePlain(axis.minorTicks()));
 
-    axis->setOffset(101.0);
-    EXPECT_EQ(byPosition(axis->majorTicks()).first().logicalPosition(), 91.0);
-    EXPECT_EQ(byPosition(axis->majorTicks()).first().axisPosition(), 0.0);
+    EXPECT_THAT(values(FixedPositionLinearAxis().majorTicks()),
+                ElementsAre(9, 0, 4, 6, 2, 7, 5, 3, 1, 8));
+    EXPECT_TRUE(FixedPositionLinearAxis().minorTicks().isEmpty());
+}
+
+TEST(FixedPositionLinearAxisTest, TicksAreRankedWithTheMajorOnesFirst)
+{
+    const auto axis = centredAxis();
+    const std::vector<double> major = ranks(axis->majorTicks());
+    const std::vector<double> minor = ranks(axis->minorTicks());
+    EXPECT_EQ(major.front(), (9.0 / 10.0 + 1.0) * 500.0 + 1500.0);
+    EXPECT_EQ(minor.front(), (39.0 / 40.0 + 1.0) * 500.0);
+    EXPECT_TRUE(std::is_sorted(major.rbegin(), major.rend()));
+    EXPECT_TRUE(std::is_sorted(minor.rbegin(), minor.rend()));
+    EXPECT_GT(major.back(), 1500.0);
 }
 
 TEST(FixedPositionLinearAxisTest, NoDivisionsGiveNoTicks)
@@ -118,22 +141,53 @@ TEST(FixedPositionLinearAxisTest, NoDivisionsGiveNoTicks)
 
 TEST(FixedPositionLinearAxisTest, EqualAxesHaveTheSameParametersWhateverTheirTicks)
 {
-    const auto axis = centredAxis();
-    EXPECT_TRUE(*axis == LinearAxis(2.0, 100.0, 0.5, false, 10, 5));
-    EXPECT_TRUE(*axis != FixedPositionLinearAxis(2.0, 100.0, 0.5, true, 10, 5));
-    EXPECT_TRUE(*axis !=
-                FixedPositionLinearAxis(2.0, std::nextafter(100.0, 101.0), 0.5, false, 10, 5));
-    EXPECT_TRUE(*axis != FixedPositionLinearAxis(2.0, 100.0, 0.5, false, 10, 4));
+    struct Foreign : FixedPositionLinearAxis
+    {
+        bool operator==(const Axis&) const override { return true; }
+    };
+    const FixedPositionLinearAxis axis(2.0, 100.0, 0.5, false, 10, 5);
+    EXPECT_TRUE(axis == LinearAxis(2.0, 100.0, 0.5, false, 10, 5));
+    EXPECT_TRUE(axis !=
+                FixedPositionLinearAxis(std::nextafter(2.0, 3.0), 100.0, 0.5, false, 10, 5));
+    EXPECT_TRUE(axis !=
+                FixedPositionLinearAxis(2.0, std::nextafter(100.0, 0.0), 0.5, false, 10, 5));
+    EXPECT_TRUE(axis !=
+                FixedPositionLinearAxis(2.0, 100.0, std::nextafter(0.5, 0.0), false, 10, 5));
+    EXPECT_TRUE(axis != FixedPositionLinearAxis(2.0, 100.0, 0.5, true, 10, 5));
+    EXPECT_TRUE(axis != FixedPositionLinearAxis(2.0, 100.0, 0.5, false, 9, 5));
+    EXPECT_TRUE(axis != FixedPositionLinearAxis(2.0, 100.0, 0.5, false, 10, 4));
+    EXPECT_FALSE(Foreign() != axis) << "by the virtual operator";
     const FixedPositionLinearAxis unknown(NaN);
     EXPECT_TRUE(unknown != unknown);
 
     QObject parent;
-    axis->setParent(&parent);
-    const std::unique_ptr<Axis> clone(static_cast<const Axis&>(*axis).clone());
-    axis->setParent(nullptr);
-    EXPECT_TRUE(*clone == *axis);
+    auto* child = new LinearAxis(2.0, 100.0, 0.5, true, 8, 4, &parent);
+    EXPECT_EQ(child->parent(), &parent);
+    const std::unique_ptr<Axis> clone(static_cast<const Axis*>(child)->clone());
+    EXPECT_TRUE(*clone == *child);
     EXPECT_EQ(clone->parent(), nullptr);
-    EXPECT_EQ(clone->minorTicks().size(), 40);
+    EXPECT_TRUE(dynamic_cast<LinearAxis*>(clone.get()));
+}
+
+TEST(FixedPositionLinearAxisTest, ListenersFindStoredWhatTheyAreTold)
+{
+    FixedPositionLinearAxis axis(2.0, 100.0, 0.5, false, 10, 5);
+    QVector<double> seen;
+    QObject::connect(&axis, &FixedPositionLinearAxis::offsetChanged,
+                     [&](double) { seen << axis.offset() << axis.scale() << axis.minValue(); });
+    QObject::connect(&axis, &Axis::minValueChanged, [&](double) { seen << axis.maxValue(); });
+    QObject::connect(&axis, &Axis::ticksUpdated,
+                     [&] { seen << places(axis.majorTicks()).front().first; });
+
+    axis.majorTicks();
+    axis.setOffset(110.0);
+    EXPECT_EQ(seen, QVector<double>({110.0, 2.0, 90.0, 110.0, 100.0}));
+    seen.clear();
+    axis.setOffsetAndScale(120.0, 4.0); // The minimum stays at 100.
+    EXPECT_EQ(seen, QVector<double>({120.0, 4.0, 100.0, 100.0}));
+    seen.clear();
+    axis.scrollAxis(0.0, 0.25);
+    EXPECT_EQ(seen, QVector<double>({130.0, 4.0, 100.0, 140.0, 110.0}));
 }
 
 TEST(FixedPositionLinearAxisTest, SettersStoreThenTellInOrder)

@@ -89,6 +89,8 @@ TEST_F(LinearGesturesTest, ScalingWidensTheRangeAroundTheAnchor)
                            "axisChangedViaScalingOrScrolling()"}));
     axis.scaleAxis(0.5, 0.0);
     EXPECT_EQ(log.take(), QStringList());
+    axis.scaleAxis(0.5, 1e-14); // Within the tolerance of setScale(), and yet a change.
+    EXPECT_EQ(log.take().size(), 6);
 
     LinearAxis fromStart; // With the anchor at 0.0 the gripped value follows the grip.
     const double gripped = fromStart.inverseTransform(Axis::Linear, 0.75);
@@ -113,18 +115,36 @@ TEST_F(LinearGesturesTest, ScalingIsBoundByThePixelAndTheTopLimit)
     EXPECT_EQ(axis.scale(), largest);
 }
 
-TEST_F(LinearGesturesTest, GestureCountsFromItsBaseHoweverOftenItIsCalled)
+TEST_F(LinearGesturesTest, AGestureCountsFromItsBaseWhateverHasBecomeOfTheAxis)
 {
-    FixedPositionLinearAxis once(2.0, 100.0, 0.5, false, 10, 5);
-    once.scrollAxis(0.3, 0.37, once.scrollScaleState());
-
     const auto base = axis.scrollScaleState();
-    for (const double by : {0.1, -2.0, 0.2, 0.37})
-        axis.scrollAxis(0.3, by, base);
-    EXPECT_EQ(axis.offset(), once.offset());
-    EXPECT_TRUE(axis == once);
+    axis.setScale(3.0);
+    axis.setAnchor(0.25);
+    axis.setOffsetIsAdded(true);
+    axis.setNumMajorDivisions(8);
 
-    // A base of another kind counts as none.
+    struct Row
+    {
+        double by, bottomLimit, topLimit, offset;
+    };
+    const Row rows[] = {
+        {0.1, Lowest, Highest, 0.1 * 2.0 * 10 + 100.0},
+        {0.1, Lowest, Highest, 0.1 * 2.0 * 10 + 100.0},
+        {-9.0, 95.0, Highest, 0.5 * 2.0 * 10 + 95.0},
+        {9.0, Lowest, 120.0, -0.5 * 2.0 * 10 + 120.0},
+        {0.37, Lowest, Highest, 0.37 * 2.0 * 10 + 100.0},
+    };
+    for (const Row& row : rows) {
+        axis.scrollAxis(0.3, row.by, base, row.bottomLimit, row.topLimit);
+        EXPECT_EQ(axis.offset(), row.offset) << row.by;
+    }
+    axis.scaleAxis(0.3, 0.1, base);
+    EXPECT_EQ(axis.scale(), 0.3 / (0.3 - 0.1) * 2.0);
+    const double largest = (50.0 - axis.minValue()) / 8; // Of the axis as it is now.
+    axis.scaleAxis(0.3, 0.2999, base, Lowest, 50.0);
+    EXPECT_EQ(axis.scale(), largest);
+
+    const double offset = axis.offset(); // A base of another kind counts as none.
     axis.scrollAxis(0.0, 0.1, boost::make_shared<ForeignState>());
-    EXPECT_EQ(axis.offset(), 0.1 * 2.0 * 10 + once.offset());
+    EXPECT_EQ(axis.offset(), -1.0 * 0.1 * largest * 8 + offset);
 }

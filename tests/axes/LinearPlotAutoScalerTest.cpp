@@ -6,62 +6,67 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::LinearAxis;
 using pelorin::ui::chart::LinearPlotAutoScaler;
 using tests::NaN;
 
-namespace {
-
-struct Data
-{
-    double bottom;
-    double top;
-    double scale = 1.0;
-    double minimumExtent = 0.1;
-    bool offsetIsAdded = false;
-    bool force = false;
-};
-
-LinearPlotAutoScaler::Suggestion suggest(const Data& data)
-{
-    return LinearPlotAutoScaler::suggest(data.scale, 0.0, data.bottom, data.top, 10, 0.9, 0.1,
-                                         data.minimumExtent, 1e-9, data.offsetIsAdded, data.force);
-}
-
-} // namespace
-
 TEST(LinearPlotAutoScalerTest, MovesDataThatLeaveTheBandAndRoundsTheScaleUp)
 {
     struct Row
     {
-        Data data;
-        double scale;
-        double offset;
+        double scale, offset, bottom, top, minimumExtent;
+        bool isAdded, force;
+        double newScale, newOffset;
     };
     // clang-format off
     const Row rows[] = {
-        // bottom  top   scale  extent added  force    scale   offset
-        {{0.4,    0.6,   1.0,   0.1,   false, false},  1.0,    0.0},
-        {{0.4,    0.6,   1.0,   0.1,   false, true},   1.0,    0.0},
-        {{0.6,    1.0,   1.0,   0.1,   false, false},  1.0,    3.0},
-        {{0.6,    1.0,   1.0,   0.1,   true,  false},  1.0,   -3.0},
-        {{0.6,    1.0,   3.0,   0.1,   false, false},  3.0,    9.0},
-        {{2.0,    3.0,   1.0,   0.2,   false, false},  2.0,   15.0},
-        {{0.2,    0.25,  1.0,   0.1,   false, false},  0.07,   1.9},
-        {{0.5,    0.5,   1.0,   0.1,   false, false},  2e-9,   5.0},
-        {{NaN,    0.6,   1.0,   0.1,   false, true},   1.0,    0.0},
-        {{0.4,    NaN,   1.0,   0.1,   false, true},   1.0,    0.0},
+        // The band is 0.125 to 0.875 of 10 divisions.
+        // scale offset bottom  top    extent  added  force   scale  offset
+        {1.0,   7.0,   0.4,    0.6,    0.1,   false, false,   1.0,    7.0},
+        {1.0,   7.0,   0.4,    0.6,    0.1,   false, true,    1.0,    7.0},
+        {1.0,   7.0,   0.625,  1.125,  0.1,   false, false,   1.0,   10.75},
+        {1.0,   7.0,   0.625,  1.125,  0.1,   true,  false,   1.0,    3.25},
+        {3.0,   7.0,   0.625,  1.125,  0.1,   false, false,   3.0,   18.25},
+        {1.0,   7.0,   2.0,    3.0,    0.2,   false, false,   2.0,   22.0},
+        {1.0,   7.0,   2.0,    3.0,    0.2,   true,  false,   2.0,  -18.0},
+        {1.0,   7.0,   0.25,   0.3125, 0.1,   false, false,   0.09,   9.3625},
+        {1.0,   7.0,   0.5,    0.5,    0.1,   false, false,   2e-9,  11.999999995},
+        // On the limits: inside the band, as large as the band, as small as wanted.
+        {1.0,   7.0,   0.125,  0.375,  0.1,   false, false,   1.0,    7.0},
+        {1.0,   7.0,   0.625,  0.875,  0.25,  false, false,   1.0,    7.0},
+        {1.0,   7.0,   0.25,   1.0,    0.1,   false, false,   1.0,    8.25},
+        {1.0,   7.0,   0.75,   1.0,    0.25,  false, false,   0.4,   13.75},
+        // A scale of one digit stays what it is: 0.75 * 4 / 0.75.
+        {4.0,   7.0,   0.25,   1.0,    0.75,  false, false,   4.0,   12.0},
+        // Nothing is suggested for numbers that are none.
+        {1.0,   7.0,   NaN,    0.6,    0.1,   false, true,    1.0,    7.0},
+        {1.0,   7.0,   0.4,    NaN,    0.1,   false, true,    1.0,    7.0},
     };
     // clang-format on
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.data.bottom << " to " << row.data.top);
-        EXPECT_NEAR(suggest(row.data).scale, row.scale, 1e-15);
-        EXPECT_NEAR(suggest(row.data).offset, row.offset, 1e-7);
+        SCOPED_TRACE(testing::Message() << "row " << &row - rows);
+        const auto suggestion =
+            LinearPlotAutoScaler::suggest(row.scale, row.offset, row.bottom, row.top, 10, 0.875,
+                                          0.125, row.minimumExtent, 1e-9, row.isAdded, row.force);
+        EXPECT_DOUBLE_EQ(suggestion.scale, row.newScale);
+        EXPECT_DOUBLE_EQ(suggestion.offset, row.newOffset);
     }
-    EXPECT_TRUE(std::isnan(suggest({0.6, 1.0, NaN}).scale));
+}
+
+TEST(LinearPlotAutoScalerTest, AnUnknownScaleOrOffsetGoesBackAsItIs)
+{
+    for (const bool force : {false, true}) {
+        const auto unknownScale = LinearPlotAutoScaler::suggest(NaN, 7.0, 2.0, 3.0, 10, 0.9, 0.1,
+                                                                0.1, 1e-9, false, force);
+        EXPECT_TRUE(std::isnan(unknownScale.scale));
+        EXPECT_EQ(unknownScale.offset, 7.0);
+        const auto unknownOffset = LinearPlotAutoScaler::suggest(1.0, NaN, 2.0, 3.0, 10, 0.9, 0.1,
+                                                                 0.1, 1e-9, false, force);
+        EXPECT_EQ(unknownOffset.scale, 1.0);
+        EXPECT_TRUE(std::isnan(unknownOffset.offset));
+    }
 }
 
 TEST(LinearPlotAutoScalerTest, NoBandFallsBackToTheFloor)

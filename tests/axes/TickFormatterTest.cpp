@@ -7,18 +7,21 @@
 #include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
 
+#include <QCoreApplication>
 #include <QLocale>
+#include <QMetaMethod>
 #include <QMetaProperty>
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include <thread>
 
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::TickFormatter;
 using pelorin::utilities::Singleton;
 using pelorin::utilities::TranslationManager;
 using pelorin::utilities::ValueFormatter;
+using tests::Infinity;
 using tests::NaN;
 using tests::SignalLog;
 
@@ -31,7 +34,8 @@ public:
     QString format(const QVariant& value) override
     {
         types << value.userType();
-        return QString::number(value.toDouble()) + (options() & AlwaysSign ? " signed" : "");
+        return QString::number(value.toDouble()) + (options() & AlwaysSign ? " signed" : "") +
+               (options() & NoPrefix ? " plain" : "");
     }
 
     QList<int> types;
@@ -81,18 +85,47 @@ TEST_F(TickFormatterTest, LabelsHaveUnitSignAndLanguage)
               QList<QString>({"1,5 mV"}));
 }
 
+TEST_F(TickFormatterTest, StartsInTheLanguageOfTheApplicationWithItsOwnSettings)
+{
+    translations.setLocale("de_DE");
+    TickFormatter formatter;
+    EXPECT_EQ(formatter.locale(), QLocale("de_DE"));
+    EXPECT_EQ(formatter.quantity(), "");
+    EXPECT_EQ(int(formatter.options()), 0);
+    EXPECT_EQ(formatter.significantDigits(), 4);
+    EXPECT_EQ(formatter.limitRangeCount(), 3);
+    EXPECT_EQ(formatter.preferredUnit(), 65536);
+    EXPECT_EQ(formatter.preferredPrefix(), 65536);
+    EXPECT_EQ(formatter.preferredUnitSystem(), "");
+}
+
 TEST_F(TickFormatterTest, RelativeLabelsLeaveOptionsAndListenersAlone)
 {
-    TickFormatter formatter;
-    const auto options = formatter.options();
+    RecordingFormatter formatter;
+    formatter.setOptions(ValueFormatter::NoPrefix);
     SignalLog log(&formatter);
-    formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {2.0}, false), 0.5);
-    EXPECT_EQ(formatter.options(), options);
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {2.0}, false), 0.5),
+              QList<QString>({"0.5 signed plain", "1.5 signed plain"}));
+    EXPECT_EQ(int(formatter.options()), int(ValueFormatter::NoPrefix));
     EXPECT_EQ(log.take(), QStringList());
+    formatter.setOptions(ValueFormatter::AlwaysSign);
+    EXPECT_EQ(formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {}, false), Infinity),
+              QList<QString>({"-inf signed"}));
 
     formatter.blockSignals(true);
     formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {}, false), 0.5);
     EXPECT_FALSE(formatter.signalsBlocked());
+}
+
+TEST_F(TickFormatterTest, ALanguageSetInAnotherThreadArrivesInItsOwn)
+{
+    TickFormatter formatter;
+    SignalLog log(&formatter);
+    std::thread([&] { translations.setLocale("fr_FR"); }).join();
+    EXPECT_EQ(log.take(), QStringList());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(formatter.locale(), QLocale("fr_FR"));
+    EXPECT_TRUE(log.take().contains("formatterChanged()"));
 }
 
 TEST_F(TickFormatterTest, ChangesOfSettingsAskForNewLabels)
@@ -138,9 +171,13 @@ TEST_F(TickFormatterTest, MetaObjectOffersItsPropertiesBySignalAndSlot)
     EXPECT_EQ(formatter->parent(), &parent);
     EXPECT_STREQ(formatter->metaObject()->className(), "pelorin::ui::chart::TickFormatter");
 
-    EXPECT_TRUE(formatter->setProperty("quantity", "frequency"));
-    EXPECT_EQ(formatter->property("quantity").toString(), "frequency");
     const QMetaObject& meta = TickFormatter::staticMetaObject;
+    for (const char* name : {"quantity", "sizeTemplate"}) {
+        const QMetaProperty property = meta.property(meta.indexOfProperty(name));
+        EXPECT_TRUE(property.write(formatter, "voltage")) << name;
+        EXPECT_EQ(property.read(formatter).toString(), "voltage") << name;
+        EXPECT_EQ(property.notifySignal().name(), QByteArray(name) + "Changed") << name;
+    }
     const char* const methods[] = {"quantityChanged(QString)", "sizeTemplateChanged(QString)",
                                    "formatterChanged()", "setQuantity(QString)",
                                    "setSizeTemplate(QString)"};

@@ -3,12 +3,10 @@
 
 #include <QCoreApplication>
 #include <QMetaType>
-#include <QThread>
 #include <QVariant>
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <memory>
 #include <thread>
 #include <vector>
@@ -30,6 +28,7 @@ TEST(KestraneTest, RegistersItsTypesByNameOnce)
         EXPECT_NE(ids.back(), int(QMetaType::UnknownType)) << name;
         EXPECT_TRUE(QMetaType::typeFlags(ids.back()) & QMetaType::WasDeclaredAsMetaType) << name;
     }
+    EXPECT_LT(ids[0], ids[1]);
     EXPECT_EQ(QMetaType::metaObjectForType(ids[0]), &Axis::staticMetaObject);
     EXPECT_TRUE(QMetaType::typeFlags(ids[0]) & QMetaType::IsEnumeration);
 
@@ -61,7 +60,7 @@ TEST(KestraneTest, ABaseOfAGestureTravelsInAVariant)
     Kestrane::deinitialize();
 }
 
-TEST(KestraneTest, ChangesOfAnAxisCrossAQueuedConnection)
+TEST(KestraneTest, AnAxisTellsOfItselfAcrossAQueuedConnection)
 {
     Kestrane::initialize();
     LinearAxis axis;
@@ -80,21 +79,16 @@ TEST(KestraneTest, ChangesOfAnAxisCrossAQueuedConnection)
 
 TEST(KestraneTest, AnyThreadMayComeAndGo)
 {
-    std::atomic<bool> start{false};
     std::vector<std::thread> users;
     for (int i = 0; i < 4; ++i) {
-        users.emplace_back([&start] {
-            while (!start)
-                std::this_thread::yield();
+        users.emplace_back([] {
             for (int round = 0; round < 200; ++round) {
                 Kestrane::initialize();
                 Kestrane::deinitialize();
             }
         });
     }
-    start = true;
     for (std::thread& user : users)
         user.join();
-    EXPECT_EQ(QMetaType::type("pelorin::ui::chart::Axis::ScaleMode"),
-              qMetaTypeId<Axis::ScaleMode>());
+    EXPECT_NE(QMetaType::type("pelorin::ui::chart::Axis::ScaleMode"), int(QMetaType::UnknownType));
 }
