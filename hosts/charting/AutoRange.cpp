@@ -49,19 +49,16 @@ AxisDivision fittedDivision(double low, double high, int divisions, TickPlaces p
     fitToData(*axis, low, high);
     if (places == TickPlaces::Moving)
         return AxisDivision::withStep(axis->minValue(), axis->maxValue(), axis->scale());
-    division.from = axis->offset();
-    division.step = axis->scale();
-    division.minor = AxisDivision::minorDivisionsOf(division.step);
-    return division;
+    return AxisDivision::withPlaces(axis->minValue(), axis->scale(), divisions);
 }
 
 // Less is better: an axis that the data fill, with steps that are easy to read, in about the wanted
 // number.
 double costOf(const AxisDivision& division, double extent, int wanted)
 {
-    const bool isRound = qFuzzyCompare(division.step, AxisDivision::roundStep(division.step));
     const double shown = division.step * division.major * division.visible;
-    return shown / extent + (isRound ? 0.0 : 1.0) + 0.05 * std::abs(shown / division.step - wanted);
+    return shown / extent + (AxisDivision::isRoundStep(division.step) ? 0.0 : 1.0) +
+           0.05 * std::abs(shown / division.step - wanted);
 }
 
 } // namespace

@@ -16,6 +16,8 @@ namespace {
 // tick that rounding has put outside by the last bit.
 constexpr double roundingAllowance = 1e-9;
 
+constexpr double leastRange = 1e-300; // Its hundredth and its inverse are ordinary numbers.
+
 struct Decimal
 {
     double digit; // 1.0 <= digit < 10.0, up to rounding
@@ -34,15 +36,14 @@ double timesPowerOfTen(double digit, int exponent)
     return exponent < 0 ? digit / std::pow(10.0, -exponent) : digit * std::pow(10.0, exponent);
 }
 
-AxisDivision fixedDivision(double from, double to, int wanted)
+// A number of divisions that gives round values to them, should there be one.
+int fixedDivisions(double range, int wanted)
 {
-    AxisDivision division;
-    division.from = from;
-    division.step = (to - from) / wanted;
-    division.major = wanted;
-    division.minor = 2;
-    division.places = TickPlaces::Fixed;
-    return division;
+    for (int divisions = wanted; divisions > wanted * 2 / 5; --divisions) {
+        if (AxisDivision::isRoundStep(range / divisions))
+            return divisions;
+    }
+    return wanted;
 }
 
 } // namespace
@@ -57,6 +58,11 @@ double AxisDivision::roundStep(double step)
     return timesPowerOfTen(1.0, decimal.exponent + 1);
 }
 
+bool AxisDivision::isRoundStep(double step)
+{
+    return step > roundStep(step) * (1.0 - roundingAllowance);
+}
+
 int AxisDivision::minorDivisionsOf(double step)
 {
     constexpr int divisions[] = {5, 5, 4, 3, 4, 5, 3, 7, 4, 3, 5}; // by the leading digit
@@ -66,15 +72,16 @@ int AxisDivision::minorDivisionsOf(double step)
 bool AxisDivision::isUsableRange(double from, double to)
 {
     const double size = std::max(std::abs(from), std::abs(to));
-    return std::isfinite(to - from) && to - from > size * 1e-12 && to - from > 1e-290;
+    return std::isfinite(to - from) && to - from > size * 1e-12 && to - from > leastRange;
 }
 
 std::pair<double, double> AxisDivision::spread(double low, double high)
 {
     if (isUsableRange(low, high))
         return {low, high};
-    const double room = low == 0.0 ? 1.0 : std::abs(low) * 0.5;
-    return {low - room, high + room};
+    const double room = std::abs(low) * 0.5;
+    return room > leastRange ? std::pair(low - room, high + room)
+                             : std::pair(low - 1.0, high + 1.0);
 }
 
 std::pair<double, double> AxisDivision::rounded(double from, double to, int wanted)
@@ -88,8 +95,10 @@ std::pair<double, double> AxisDivision::rounded(double from, double to, int want
 
 AxisDivision AxisDivision::of(double from, double to, int wanted, TickPlaces places)
 {
-    if (places == TickPlaces::Fixed)
-        return fixedDivision(from, to, wanted);
+    if (places == TickPlaces::Fixed) {
+        const int divisions = fixedDivisions(to - from, wanted);
+        return withPlaces(from, (to - from) / divisions, divisions);
+    }
     return withStep(from, to, roundStep((to - from) / wanted));
 }
 
@@ -101,6 +110,19 @@ AxisDivision AxisDivision::withStep(double from, double to, double step)
     division.from = from - step * roundingAllowance;
     division.major = 1 + int(std::floor((to - from) / step + roundingAllowance));
     division.visible = (to - division.from) / (step * division.major);
+    return division;
+}
+
+// The axis has no tick at its end, so that of the range is the first one of a further division.
+AxisDivision AxisDivision::withPlaces(double from, double step, int divisions)
+{
+    AxisDivision division;
+    division.from = from;
+    division.step = step;
+    division.major = divisions + 1;
+    division.minor = isRoundStep(step) ? minorDivisionsOf(step) : 2;
+    division.visible = double(divisions) / division.major;
+    division.places = TickPlaces::Fixed;
     return division;
 }
 

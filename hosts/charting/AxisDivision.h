@@ -28,11 +28,15 @@ struct AxisDivision
 
     /// Divides @p from to @p to, of which isUsableRange() holds.
     /// @param wanted the number of divisions to come near to; with round steps there are from two
-    ///        fifths of it up to all of it, and more than that never
+    ///        fifths of it up to all of it, and more than that never. Fixed places have round steps
+    ///        if one of these numbers divides the range into such.
     static AxisDivision of(double from, double to, int wanted, TickPlaces places);
 
     /// Moving ticks at the multiples of @p step.
     static AxisDivision withStep(double from, double to, double step);
+
+    /// Ticks at fixed places, at both ends too, around @p divisions of the size @p step.
+    static AxisDivision withPlaces(double from, double step, int divisions);
 
     /// Finite limits, the lower first, far enough apart for their difference to have digits.
     static bool isUsableRange(double from, double to);
@@ -45,6 +49,9 @@ struct AxisDivision
 
     /// The smallest of 1, 2, 5 times a power of ten that is not below @p step.
     static double roundStep(double step);
+
+    /// Whether roundStep() leaves @p step as it is, up to rounding.
+    static bool isRoundStep(double step);
 
     /// How many minor divisions suit a major step: they fall on round values too.
     static int minorDivisionsOf(double step);

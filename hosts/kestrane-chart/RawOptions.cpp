@@ -16,7 +16,7 @@ Ranges
   --from, --to, --bottom and --top are kept exactly. What is left open follows from the data: x
   covers them and ends on a tick, y leaves some room above and below.
   With moving ticks the ticks stand on round values, wherever these fall in the range; with fixed
-  ticks they divide the range evenly, whatever values that gives.
+  ticks they divide the range evenly from its left or lower end on, whatever values that gives.
 
 Pictures
   The ending of the output's name says what it becomes. A picture of 1000x600 has as many pixels

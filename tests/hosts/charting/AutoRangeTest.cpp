@@ -30,9 +30,9 @@ TEST(AutoRangeTest, HoldsTheDataWithRoomOnBothSidesAndWastesLittle)
 
 TEST(AutoRangeTest, DataThatAreAllEqualStandInTheMiddleOfTheirOwnSize)
 {
-    for (const double value : {0.0, 5.0, -3e-7, 1e15}) {
+    for (const double value : {0.0, 1e-310, 5.0, -3e-7, 1e-295, 1e15}) {
         const AxisDivision division = autoRange(value, value, 8, TickPlaces::Moving);
-        const double size = value == 0.0 ? 2.0 : std::abs(value);
+        const double size = value < 1e-300 && value > -1e-300 ? 2.0 : std::abs(value);
         EXPECT_NEAR((division.from + division.to()) / 2.0, value, 1e-6 * size);
         EXPECT_GT(division.to() - division.from, size);
         EXPECT_LT(division.to() - division.from, 2.0 * size);

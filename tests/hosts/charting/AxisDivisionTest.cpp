@@ -72,9 +72,25 @@ TEST(AxisDivisionTest, AnyRangeIsShownExactlyWithATickOnEveryMultipleOfTheStep)
 
 TEST(AxisDivisionTest, FixedPlacesDivideTheRangeEvenly)
 {
-    const AxisDivision division = AxisDivision::of(1.0, 8.0, 4, TickPlaces::Fixed);
-    EXPECT_EQ(majorPlaces(division), (QVector<double>{0.0, 0.25, 0.5, 0.75}));
-    EXPECT_EQ(division.makeAxis()->maxValue(), 8.0);
+    const struct
+    {
+        double from, to;
+        int wanted;
+        double step;
+        int ticks;
+    } cases[] = {{1.0, 8.3, 4, 1.825, 5}, // No round step.
+                 {10.19, 10.99, 10, 0.1, 9},
+                 {-5.0, 5.0, 9, 2.0, 6},
+                 {0.0, 1e-299, 2, 5e-300, 3}};
+    for (const auto& c : cases) {
+        const AxisDivision division = AxisDivision::of(c.from, c.to, c.wanted, TickPlaces::Fixed);
+        EXPECT_NEAR(division.step, c.step, 1e-12 * c.step);
+        EXPECT_DOUBLE_EQ(AxisView(division, QString()).to(), c.to);
+        const QVector<double> places = majorPlaces(division);
+        ASSERT_EQ(places.size(), c.ticks) << c.from << " to " << c.to;
+        for (int i = 0; i < c.ticks; ++i)
+            EXPECT_NEAR(places[i], double(i) / (c.ticks - 1), 1e-12);
+    }
 }
 
 TEST(AxisDivisionTest, RangesRoundOutwardsToMinorDivisionsAndNeverInwards)
