@@ -55,12 +55,11 @@ QColor Look::curveColor(int index) const
 {
     const int count = int(curveColors.size());
     QColor color = curveColors.at(index % count);
-    const bool onDark = background.lightness() < 128;
     switch ((index / count) % 3) {
     case 1:
-        return onDark ? color.darker(150) : color.lighter(150);
+        return color.darker(150);
     case 2:
-        return onDark ? color.lighter(130) : color.darker(160);
+        return color.lighter(140);
     default:
         return color;
     }
