@@ -12,6 +12,7 @@
 #include <QSvgGenerator>
 
 #include <cmath>
+#include <new>
 
 namespace hosts::chart {
 
@@ -99,6 +100,8 @@ QByteArray PictureFile::png(const Paint& paint) const
     const double scale = m_dpi / logicalDpi;
     const auto pixels = [&](int length) { return int(std::lround(length * scale)); };
     QImage image(pixels(m_size.width()), pixels(m_size.height()), QImage::Format_RGB32);
+    if (image.isNull())
+        throw std::bad_alloc();
     const int dotsPerMetre = int(std::lround(m_dpi / 0.0254));
     image.setDotsPerMeterX(dotsPerMetre);
     image.setDotsPerMeterY(dotsPerMetre);
