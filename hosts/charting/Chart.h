@@ -15,6 +15,7 @@ struct Curve
 {
     QVector<QVector<QPointF>> polylines;
     QVector<QVector<QPointF>> symbols;
+    QVector<QPointF> loneSamples; ///< Those that no line can show, as it has two ends.
 };
 
 /// All the texts of a chart.

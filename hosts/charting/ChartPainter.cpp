@@ -12,6 +12,23 @@ namespace hosts::charting {
 
 using Style = TextMeasure::Style;
 
+namespace {
+
+// Nearer to each other, minor ticks would run together.
+constexpr double leastTickDistance = 3.5;
+
+template<typename Action>
+void forEachMark(const QVector<TickMark>& marks, double length, const Action& act)
+{
+    const bool haveMinorsRoom = marks.size() * leastTickDistance <= length;
+    for (const TickMark& mark : marks) {
+        if (mark.major || haveMinorsRoom)
+            act(mark);
+    }
+}
+
+} // namespace
+
 ChartPainter::ChartPainter(QPainter& painter, const Look& look, double deviceScale)
     : m_painter(painter)
     , m_look(look)
@@ -76,32 +93,32 @@ void ChartPainter::paintGrid(const Chart& chart, const ChartLayout& layout, bool
 {
     const QRectF& plot = layout.plot;
     setLinePen(major ? m_look.majorGrid : m_look.minorGrid);
-    for (const TickMark& mark : chart.texts.xMarks) {
+    forEachMark(chart.texts.xMarks, plot.width(), [&](const TickMark& mark) {
         const double x = lineAtX(layout, mark);
         if (mark.major == major)
             m_painter.drawLine(QLineF(x, plot.top(), x, plot.bottom()));
-    }
-    for (const TickMark& mark : chart.texts.yMarks) {
+    });
+    forEachMark(chart.texts.yMarks, plot.height(), [&](const TickMark& mark) {
         const double y = lineAtY(layout, mark);
         if (mark.major == major)
             m_painter.drawLine(QLineF(plot.left(), y, plot.right(), y));
-    }
+    });
 }
 
 void ChartPainter::paintTicks(const Chart& chart, const ChartLayout& layout)
 {
     const QRectF& plot = layout.plot;
     setLinePen(m_look.frame);
-    for (const TickMark& mark : chart.texts.xMarks) {
+    forEachMark(chart.texts.xMarks, plot.width(), [&](const TickMark& mark) {
         const double x = lineAtX(layout, mark);
         const double length = mark.major ? m_look.majorTickLength : m_look.minorTickLength;
         m_painter.drawLine(QLineF(x, plot.bottom(), x, plot.bottom() + length));
-    }
-    for (const TickMark& mark : chart.texts.yMarks) {
+    });
+    forEachMark(chart.texts.yMarks, plot.height(), [&](const TickMark& mark) {
         const double y = lineAtY(layout, mark);
         const double length = mark.major ? m_look.majorTickLength : m_look.minorTickLength;
         m_painter.drawLine(QLineF(plot.left() - length, y, plot.left(), y));
-    }
+    });
 }
 
 void ChartPainter::paintFrame(const QRectF& plot)
@@ -129,20 +146,24 @@ void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int
         for (const QVector<QPointF>& piece : clipPolyline(points, layout.plot))
             m_painter.drawPolyline(piece.constData(), int(piece.size()));
     }
-    for (const QVector<QPointF>& symbols : curve.symbols) {
-        for (const QPointF& symbol : symbols) {
-            const QPointF centre = toPicture(symbol);
+    const auto paintMarks = [&](const QVector<QPointF>& points, double radius, const QColor& fill) {
+        for (const QPointF& point : points) {
+            const QPointF centre = toPicture(point);
             if (layout.plot.contains(centre))
-                paintSymbol(centre, color);
+                paintMark(centre, radius, color, fill);
         }
-    }
+    };
+    paintMarks(curve.loneSamples, m_look.dotRadius, color);
+    for (const QVector<QPointF>& symbols : curve.symbols)
+        paintMarks(symbols, m_look.symbolRadius, m_look.plotBackground);
 }
 
-void ChartPainter::paintSymbol(const QPointF& centre, const QColor& color)
+void ChartPainter::paintMark(const QPointF& centre, double radius, const QColor& color,
+                             const QColor& fill)
 {
     m_painter.setPen(QPen(color, m_look.curveWidth));
-    m_painter.setBrush(m_look.plotBackground);
-    m_painter.drawEllipse(centre, m_look.symbolRadius, m_look.symbolRadius);
+    m_painter.setBrush(fill);
+    m_painter.drawEllipse(centre, radius, radius);
 }
 
 void ChartPainter::paintLegend(const Chart& chart, const ChartLayout& layout)
@@ -156,7 +177,7 @@ void ChartPainter::paintLegend(const Chart& chart, const ChartLayout& layout)
         m_painter.setPen(QPen(color, m_look.curveWidth * 2.0));
         m_painter.drawLine(QLineF(entry.sample.left(), y, entry.sample.right(), y));
         if (!chart.curves[entry.curve].symbols.isEmpty())
-            paintSymbol(entry.sample.center(), color);
+            paintMark(entry.sample.center(), m_look.symbolRadius, color, m_look.plotBackground);
     }
 }
 

@@ -26,7 +26,7 @@ private:
     void paintTicks(const Chart& chart, const ChartLayout& layout);
     void paintFrame(const QRectF& plot);
     void paintCurve(const Chart& chart, const ChartLayout& layout, int index);
-    void paintSymbol(const QPointF& centre, const QColor& color);
+    void paintMark(const QPointF& centre, double radius, const QColor& color, const QColor& fill);
     void paintLegend(const Chart& chart, const ChartLayout& layout);
     void paintHeadings(const ChartLayout& layout);
     void paintText(const PlacedText& text, TextMeasure::Style style, const QColor& color);

@@ -32,6 +32,7 @@ struct Look
     double gridWidth = 1.0;
     double curveWidth = 1.25;
     double symbolRadius = 2.6;
+    double dotRadius = 1.2; ///< Of the dot for a sample that stands alone.
     double majorTickLength = 5.0;
     double minorTickLength = 3.0;
     int textSize = 12;

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <utility>
 
 namespace hosts::chart {
 
@@ -21,7 +23,11 @@ using charting::ChartLayout;
 using charting::ChartTexts;
 using charting::Curve;
 using charting::Look;
+using charting::TickPlaces;
 using data::Series;
+using pelorin::backend::PlotSegment;
+using pelorin::backend::PlotSnapshot;
+using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::SamplePlotAlgorithm;
 using pelorin::utilities::Singleton;
 using pelorin::variables::Quantity;
@@ -84,6 +90,52 @@ AxisDivision xDivision(const std::vector<Series>& series, const Options& options
     return AxisDivision::of(from, to, wanted, options.ticks);
 }
 
+// A sample between two gaps has no line, so it needs a mark of its own at any distance.
+QVector<QPointF> loneSamples(const Series& series, const AxisView& x, const AxisView& y,
+                             double columnWidth)
+{
+    std::vector<PlotSegment> alone;
+    const auto& segments = series.snapshot.segments;
+    std::copy_if(segments.begin(), segments.end(), std::back_inserter(alone),
+                 [](const PlotSegment& segment) { return segment.count == 1; });
+    SamplePlotAlgorithm algorithm;
+    algorithm.setSnapshot(PlotSnapshot(std::move(alone)));
+    QVector<QPointF> points;
+    for (const QVector<QPointF>& symbols :
+         algorithm.createSegments(x.axis(), y.axis(), columnWidth, 0.0).second)
+        points += symbols;
+    return points;
+}
+
+Curve curveOf(const Series& series, const AxisView& x, const AxisView& y, double plotWidth,
+              const Options& options)
+{
+    const double columnWidth = x.visible() / (plotWidth * options.deviceScale());
+    SamplePlotAlgorithm algorithm;
+    algorithm.setSnapshot(series.snapshot);
+    const auto segments = algorithm.createSegments(x.axis(), y.axis(), columnWidth,
+                                                   options.symbolSpacing * options.deviceScale());
+    return {segments.first, segments.second, loneSamples(series, x, y, columnWidth)};
+}
+
+// What is to be seen of the curves: between samples a spline goes beyond them.
+Extent extentOfCurves(const std::vector<Series>& series, const AxisView& x, const Extent& data,
+                      const Options& options)
+{
+    const auto range = AxisDivision::spread(data.low, data.high);
+    const AxisView y(AxisDivision::of(range.first, range.second, 2, TickPlaces::Fixed), QString());
+    Extent extent = data;
+    for (const Series& one : series) {
+        for (const auto& polyline : curveOf(one, x, y, options.size.width(), options).polylines) {
+            for (const QPointF& point : polyline) {
+                if (point.x() >= 0.0 && point.x() <= x.visible())
+                    extent.take(y.axis()->inverseTransform(Axis::Linear, point.y()));
+            }
+        }
+    }
+    return extent;
+}
+
 AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, const Options& options)
 {
     const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
@@ -93,9 +145,9 @@ AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, con
         throw WorkError(QStringLiteral("the values, from %1 to %2, are too far apart to draw")
                             .arg(data->low)
                             .arg(data->high));
+    const Extent seen = extentOfCurves(series, x, *data, options);
     const int wanted = divisionsIn(options.size.height(), pixelsPerYDivision);
-    const AxisDivision automatic =
-        charting::autoRange(data->low, data->high, wanted, options.ticks);
+    const AxisDivision automatic = charting::autoRange(seen.low, seen.high, wanted, options.ticks);
     if (!options.y.from && !options.y.to)
         return automatic;
     const double bottom = options.y.from.value_or(automatic.from);
@@ -116,16 +168,6 @@ QStringList curveNames(const std::vector<Series>& series, const Options& options
         names.append(series[std::size_t(i)].name);
     std::transform(names.begin(), names.end(), names.begin(), printable);
     return names;
-}
-
-Curve curveOf(const Series& series, const Chart& chart, double plotWidth, const Options& options)
-{
-    const double columns = plotWidth * options.deviceScale() / chart.x.visible();
-    SamplePlotAlgorithm algorithm;
-    algorithm.setSnapshot(series.snapshot);
-    const auto segments = algorithm.createSegments(chart.x.axis(), chart.y.axis(), 1.0 / columns,
-                                                   options.symbolSpacing * options.deviceScale());
-    return {segments.first, segments.second};
 }
 
 ChartTexts textsOf(const AxisView& x, const AxisView& y, const QStringList& names,
@@ -153,7 +195,7 @@ Drawing Drawing::of(const std::vector<Series>& series, const Options& options)
     const ChartLayout layout =
         ChartLayout::of(options.size, chart.texts, charting::FontMeasure(look));
     for (const Series& one : series)
-        chart.curves.append(curveOf(one, chart, layout.plot.width(), options));
+        chart.curves.append(curveOf(one, x, y, layout.plot.width(), options));
     return {look, chart, layout};
 }
 

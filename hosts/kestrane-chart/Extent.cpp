@@ -9,14 +9,12 @@ using pelorin::backend::PlotSegment;
 
 namespace {
 
-void take(std::optional<Extent>& extent, double value)
+void widen(std::optional<Extent>& extent, double value)
 {
-    if (std::isnan(value))
-        return;
-    if (!extent)
+    if (!extent && std::isfinite(value))
         extent = Extent{value, value};
-    extent->low = std::min(extent->low, value);
-    extent->high = std::max(extent->high, value);
+    if (extent)
+        extent->take(value);
 }
 
 double abscissaOf(const PlotSegment& segment, double index)
@@ -30,13 +28,23 @@ void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, doubl
     if (segment.count == 0 || abscissaOf(segment, 0.0) > to || abscissaOf(segment, last) < from)
         return;
     const auto index = [&](double x) { return (x - segment.xInfo.offset) / segment.xInfo.scale; };
-    const auto first = std::ptrdiff_t(std::clamp(std::floor(index(from)), 0.0, last));
-    const auto end = std::ptrdiff_t(std::clamp(std::ceil(index(to)), 0.0, last)) + 1;
+    // The first sample inside and the last one, or the other way round if there is none.
+    const auto ends = std::minmax({std::ceil(index(from)), std::floor(index(to))});
+    const auto first = std::ptrdiff_t(std::clamp(ends.first, 0.0, last));
+    const auto end = std::ptrdiff_t(std::clamp(ends.second, 0.0, last)) + 1;
     for (auto sample = segment.begin + first; sample != segment.begin + end; ++sample)
-        take(extent, *sample);
+        widen(extent, *sample);
 }
 
 } // namespace
+
+void Extent::take(double value)
+{
+    if (!std::isfinite(value))
+        return;
+    low = std::min(low, value);
+    high = std::max(high, value);
+}
 
 std::optional<Extent> Extent::ofAbscissas(const std::vector<data::Series>& series)
 {
@@ -45,8 +53,8 @@ std::optional<Extent> Extent::ofAbscissas(const std::vector<data::Series>& serie
         for (const PlotSegment& segment : one.snapshot.segments) {
             if (segment.count == 0)
                 continue;
-            take(extent, abscissaOf(segment, 0.0));
-            take(extent, abscissaOf(segment, double(segment.count - 1)));
+            widen(extent, abscissaOf(segment, 0.0));
+            widen(extent, abscissaOf(segment, double(segment.count - 1)));
         }
     }
     return extent;

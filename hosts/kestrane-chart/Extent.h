@@ -14,11 +14,14 @@ struct Extent
     double low;
     double high;
 
+    /// Widens it to hold @p value, if that is finite.
+    void take(double value);
+
     /// Of the abscissas of all samples; none without samples. O(segments).
     static std::optional<Extent> ofAbscissas(const std::vector<data::Series>& series);
 
-    /// Of the values that a curve from x = @p from to @p to passes: those of the samples in the
-    /// range and of their neighbours just outside. None if no segment reaches into the range.
+    /// Of the samples from x = @p from to @p to; of a segment that has none there, but on both
+    /// sides, of these two. None if no segment reaches into the range.
     static std::optional<Extent> ofValues(const std::vector<data::Series>& series, double from,
                                           double to);
 };

@@ -76,6 +76,27 @@ TEST(KestraneChartTest, ADenseSignalShowsItsWholeHeightInEveryColumn)
     }
 }
 
+TEST(KestraneChartTest, ShowsSplinesBeyondTheirSamplesAndSamplesWithoutALine)
+{
+    const struct
+    {
+        QStringList column, range;
+    } cases[] = {{{"0", "0", "0", "1", "1", "0", "0", "0"}, {"--from", "0", "--to", "7"}},
+                 {{"0", "0", "0", "1", "1", "0", "0", "0"}, {"--from", "3.49", "--to", "3.51"}},
+                 {repeated("", 500) + repeated("7", 1) + repeated("", 500) + repeated("3", 1),
+                  {"--from", "1", "--to", "1000"}}};
+    ChartRun chart;
+    for (const auto& c : cases) {
+        chart.writeColumn("in.csv", c.column);
+        ASSERT_EQ(chart.run(QStringList{"in.csv", "-o", "out.png"} + c.range), 0);
+        const QImage image(chart.path("out.png"));
+        int found = 0;
+        for (int x = 450; x < 550; ++x)
+            found += rowsOfCurve(image, x).first > 0 ? 1 : 0;
+        EXPECT_GE(found, c.column.size() > 8 ? 2 : 80) << c.range.join(' ').toStdString();
+    }
+}
+
 TEST(KestraneChartTest, MarksTheSamplesWhenTheyAreFarEnoughApart)
 {
     ChartRun chart;
