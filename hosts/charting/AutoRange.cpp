@@ -49,7 +49,9 @@ AxisDivision fittedDivision(double low, double high, int divisions, TickPlaces p
     fitToData(*axis, low, high);
     if (places == TickPlaces::Moving)
         return AxisDivision::withStep(axis->minValue(), axis->maxValue(), axis->scale());
-    return AxisDivision::withPlaces(axis->minValue(), axis->scale(), divisions);
+    // A twentieth of a division at most, which is less than the data's room, for shorter labels.
+    const double tenths = std::round(axis->minValue() / axis->scale() * 10.0);
+    return AxisDivision::withPlaces(tenths * axis->scale() / 10.0, axis->scale(), divisions);
 }
 
 // Less is better: an axis that the data fill, with steps that are easy to read, in about the wanted

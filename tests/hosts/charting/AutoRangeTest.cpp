@@ -18,13 +18,18 @@ TEST(AutoRangeTest, HoldsTheDataWithRoomOnBothSidesAndWastesLittle)
         const double size = std::pow(10.0, exponent(random));
         const double low = middle(random) * size;
         const double high = low + size;
-        const AxisDivision division = autoRange(low, high, 8, TickPlaces::Moving);
+        const bool isFixed = i % 2 == 0;
+        const AxisDivision division =
+            autoRange(low, high, 8, isFixed ? TickPlaces::Fixed : TickPlaces::Moving);
         const double room = 0.03 * (division.to() - division.from);
         ASSERT_LE(division.from + room, low);
         ASSERT_GE(division.to() - room, high);
         ASSERT_LE(division.to() - division.from, 2.0 * size) << low << " to " << high;
-        ASSERT_NEAR((division.from + division.to()) / 2.0, (low + high) / 2.0, 1e-6 * size);
+        ASSERT_NEAR((division.from + division.to()) / 2.0, (low + high) / 2.0,
+                    (isFixed ? 0.051 * division.step : 1e-6 * size));
         ASSERT_DOUBLE_EQ(division.step, AxisDivision::roundStep(division.step));
+        const double tenth = isFixed ? division.step / 10.0 : 1e-12 * size;
+        ASSERT_NEAR(std::remainder(division.from, tenth), 0.0, 1e-9 * size);
     }
 }
 
