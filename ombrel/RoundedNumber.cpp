@@ -1,5 +1,7 @@
 #include "ombrel/RoundedNumber.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace pelorin {
@@ -16,6 +18,39 @@ QString superscript(int number)
     return text;
 }
 
+struct Decimal
+{
+    double mantissa;
+    int exponent;
+};
+
+Decimal decimal(double number)
+{
+    const QString text = QLocale::c().toString(number, 'e', QLocale::FloatingPointShortest);
+    const int mark = text.indexOf('e');
+    return {text.leftRef(mark).toDouble(), text.midRef(mark + 1).toInt()};
+}
+
+QString localDigits(const QByteArray& digits, const QLocale& locale)
+{
+    QString text;
+    for (const char digit : digits)
+        text += QChar(locale.zeroDigit().unicode() + (digit - '0'));
+    return text;
+}
+
+void insertGroupMarks(QString& whole, const QLocale& locale)
+{
+    // Nothing but a text tells the sizes: 3 digits, but 2 ahead of the last 3 in India, or none.
+    const QStringList groups = locale.toString(1234567890).split(locale.groupSeparator());
+    const int count = groups.size();
+    if (count == 1)
+        return;
+    int position = whole.size() - groups[count - 1].size();
+    for (; position > 0; position -= groups[count - 2].size())
+        whole.insert(position, locale.groupSeparator());
+}
+
 } // namespace
 
 RoundedNumber::RoundedNumber(double magnitude, int significantDigits)
@@ -28,14 +63,27 @@ RoundedNumber::RoundedNumber(double magnitude, int significantDigits)
         m_digits.chop(1);
 }
 
+RoundedNumber RoundedNumber::product(double a, double b, int significantDigits)
+{
+    const Decimal first = decimal(a);
+    const Decimal second = decimal(b);
+    RoundedNumber result(first.mantissa * second.mantissa, significantDigits);
+    result.m_exponent += first.exponent + second.exponent;
+    return result;
+}
+
 QString RoundedNumber::plainText(int shift, const QLocale& locale) const
 {
     if (isZero())
         return locale.toString(0);
-    const int decimals = m_digits.size() - 1 - (m_exponent - shift);
-    // Up to 15 digits survive the way through a double.
-    const double number = (m_digits + 'e' + QByteArray::number(-decimals)).toDouble();
-    return locale.toString(number, 'f', std::max(decimals, 0));
+    const int exponent = m_exponent - shift;
+    const QByteArray digits = QByteArray(std::max(-exponent, 0), '0') + m_digits;
+    const int wholeCount = std::max(exponent, 0) + 1;
+    QString text = localDigits(digits.left(wholeCount).leftJustified(wholeCount, '0'), locale);
+    insertGroupMarks(text, locale);
+    if (digits.size() > wholeCount)
+        text += locale.decimalPoint() + localDigits(digits.mid(wholeCount), locale);
+    return text;
 }
 
 QString RoundedNumber::powerOfTen(int shift, const QLocale& locale) const

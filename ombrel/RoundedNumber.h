@@ -17,6 +17,9 @@ public:
     /// @param significantDigits 1 to 15
     RoundedNumber(double magnitude, int significantDigits);
 
+    /// The product of two such magnitudes, which may lie beyond what a double holds.
+    static RoundedNumber product(double a, double b, int significantDigits);
+
     bool isZero() const { return m_digits.isEmpty(); }
 
     /// The power of ten of the first digit, after rounding; 0 for zero.

@@ -46,7 +46,15 @@ bool isAttached(const QString& symbol)
     return symbol == QStringLiteral("°");
 }
 
-// Returns whether that changed the setting.
+QString signOf(double number, const QLocale& locale, bool isPlusWritten)
+{
+    if (number < 0.0)
+        return locale.negativeSign();
+    return number > 0.0 && isPlusWritten ? QString(locale.positiveSign()) : QString();
+}
+
+// Returns whether that changed the setting. Signals that take a reference get a copy of their own:
+// a listener may set the same setting again while others have yet to hear of this one.
 template<typename T>
 bool assign(T& setting, const T& value)
 {
@@ -106,22 +114,25 @@ QString ValueFormatter::formatNumber(double value) const
 {
     const Unit unit = chosenUnit();
     const bool isDifference = m_options.testFlag(AlwaysSign);
-    const double number = value * unit.scale + (isDifference ? 0.0 : unit.offset);
+    const double scaled = value * unit.scale;
+    const double number = scaled + (isDifference ? 0.0 : unit.offset);
     if (std::isnan(number))
         return QStringLiteral("NaN");
 
-    QString sign;
-    if (number < 0.0)
-        sign = m_locale.negativeSign();
-    else if (number > 0.0 && isDifference)
-        sign = m_locale.positiveSign();
-    return sign +
-           (std::isinf(number) ? QStringLiteral("∞") : formatMagnitude(std::abs(number), unit));
+    const QString sign = signOf(number, m_locale, isDifference);
+    const int digits = std::clamp(m_significantDigits, 1, 15);
+    if (std::isfinite(number))
+        return sign + formatMagnitude(RoundedNumber(std::abs(number), digits), unit);
+    // The offset is nothing beside a product that no double holds.
+    if (std::isinf(scaled) && std::isfinite(value) && std::isfinite(unit.scale)) {
+        const auto product = RoundedNumber::product(std::abs(value), std::abs(unit.scale), digits);
+        return sign + formatMagnitude(product, unit);
+    }
+    return sign + QStringLiteral("∞");
 }
 
-QString ValueFormatter::formatMagnitude(double magnitude, const Unit& unit) const
+QString ValueFormatter::formatMagnitude(const RoundedNumber& rounded, const Unit& unit) const
 {
-    const RoundedNumber rounded(magnitude, std::clamp(m_significantDigits, 1, 15));
     const bool mayHavePrefix = unit.takesPrefix && !(m_options & (NoPrefix | Scientific));
     const Prefix* const preferred = mayHavePrefix ? findPrefix(m_preferredPrefix) : nullptr;
     const Prefix* const automatic = mayHavePrefix && !preferred && !(m_options & NoUnit)
@@ -142,7 +153,7 @@ QString ValueFormatter::formatMagnitude(double magnitude, const Unit& unit) cons
 bool ValueFormatter::isWithinLimit(int exponent) const
 {
     const int count = std::max(m_limitRangeCount, 0);
-    return !m_options.testFlag(Scientific) && exponent < 3 * count && exponent >= -count - 1;
+    return !m_options.testFlag(Scientific) && exponent < 3LL * count && exponent >= -count - 1;
 }
 
 variables::Quantity::Unit ValueFormatter::chosenUnit() const
@@ -176,7 +187,7 @@ QLocale ValueFormatter::locale() const
 void ValueFormatter::setLocale(const QLocale& locale)
 {
     if (assign(m_locale, locale))
-        Q_EMIT localeChanged(m_locale);
+        Q_EMIT localeChanged(QLocale(m_locale));
 }
 
 variables::Quantity ValueFormatter::quantity() const
@@ -187,7 +198,7 @@ variables::Quantity ValueFormatter::quantity() const
 void ValueFormatter::setQuantity(const variables::Quantity& quantity)
 {
     if (assign(m_quantity, quantity))
-        Q_EMIT quantityChanged(m_quantity);
+        Q_EMIT quantityChanged(variables::Quantity(m_quantity));
 }
 
 int ValueFormatter::significantDigits() const

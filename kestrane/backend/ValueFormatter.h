@@ -13,6 +13,8 @@
 namespace pelorin {
 namespace utilities {
 
+class RoundedNumber;
+
 /// Writes measured values for people: "1.5 mV", "20 kHz", "-3,2 s".
 ///
 /// The text is a number as the locale writes it (decimal mark, signs, digits and group marks),
@@ -110,7 +112,8 @@ Q_SIGNALS:
 
 private:
     QString formatNumber(double value) const;
-    QString formatMagnitude(double magnitude, const variables::Quantity::Unit& unit) const;
+    QString formatMagnitude(const RoundedNumber& rounded,
+                            const variables::Quantity::Unit& unit) const;
     bool isWithinLimit(int exponent) const;
     variables::Quantity::Unit chosenUnit() const;
 
