@@ -1,21 +1,22 @@
 #include "kestrane/plots/SamplePlotAlgorithm.h"
+#include "kestrane/plots/SplineAlgorithm.h"
 
 #include "tests/support/Builders.h"
 #include "tests/support/Numbers.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <map>
-#include <random>
 #include <thread>
 
+using pelorin::algo::Subsampler;
 using pelorin::backend::PlotSegment;
 using pelorin::backend::PlotSnapshot;
+using pelorin::backend::SampleIterator;
 using pelorin::ui::chart::Axis;
 using pelorin::ui::chart::SamplePlotAlgorithm;
 using tests::exact;
+using tests::Infinity;
 using tests::linearAxis;
 using tests::NaN;
 using tests::Points;
@@ -43,6 +44,32 @@ Plot plotOf(PlotSnapshot data, const QSharedPointer<const Axis>& xAxis, double c
     SamplePlotAlgorithm algorithm;
     algorithm.setSnapshot(std::move(data));
     return plotOf(algorithm, xAxis, columnWidth, symbolSpacing);
+}
+
+// On an axis of eight columns of 1.0.
+Plot plotOf(PlotSnapshot data, double columnWidth = 0.125, double symbolSpacing = 0.5)
+{
+    return plotOf(std::move(data), linearAxis(8.0), columnWidth, symbolSpacing);
+}
+
+// A backend's curve: the same everywhere, also outside the samples.
+class Constant : public Subsampler
+{
+public:
+    explicit Constant(double value)
+        : m_value(value)
+    {}
+
+    double operator[](const double&) override { return m_value; }
+    boost::shared_ptr<Subsampler> tail(long long) override { return {}; }
+
+private:
+    double m_value;
+};
+
+PlotSegment withCurve(const PlotSegment& segment, double value)
+{
+    return segment.setSubsampler(boost::make_shared<Constant>(value));
 }
 
 void expectNear(const Points& actual, const Points& expected, double tolerance)
@@ -150,28 +177,6 @@ TEST(SamplePlotAlgorithmTest, SegmentsStayApart)
     EXPECT_EQ(plot.symbols[1], (Points{{0.625, 0.4}, {0.75, 0.5}, {0.875, 0.6}}));
 }
 
-TEST(SamplePlotAlgorithmTest, FormsOfTheSegmentGoToTheAxes)
-{
-    // Abscissae 10^0, 10^0.25 ... 10^1 and values 10^-2 ... 10^0, both given as logarithms.
-    const PlotSnapshot data = snapshot(
-        {segment({-2.0, -1.5, -1.0, -0.5, 0.0}, 0.0, 0.25, Axis::Logarithmic, Axis::Logarithmic)});
-    const Plot plot = plotOf(data, linearAxis(10.0), 0.1, 0.3);
-    ASSERT_EQ(plot.polylines.size(), 1u);
-    double centre = 0.0;
-    for (const auto& point : plot.polylines[0]) {
-        if (point.first == centre)
-            continue; // Only the first point of a column lies on the curve.
-        centre = point.first;
-        const double edge = centre - 0.05; // value = 10^(2 log10 x - 2) = (x / 10)^2
-        EXPECT_NEAR(point.second, edge * edge, 1e-12) << edge;
-    }
-    EXPECT_NEAR(centre, 1.05, 1e-12) << "one column past the end";
-
-    // The step 0.25 is held against columns as plain values, whatever its form.
-    EXPECT_TRUE(plot.symbols.empty());
-    EXPECT_EQ(plotOf(data, linearAxis(10.0), 0.1, 0.2).symbols.at(0).size(), 5u);
-}
-
 TEST(SamplePlotAlgorithmTest, ASecondCallBuildsNothingNewAndGivesTheSame)
 {
     const PlotSegment own = segment({0.0, 1.0, 0.0, 0.5, 0.25});
@@ -185,40 +190,6 @@ TEST(SamplePlotAlgorithmTest, ASecondCallBuildsNothingNewAndGivesTheSame)
 
     algorithm.setSnapshot(PlotSnapshot());
     EXPECT_TRUE(plotOf(algorithm, linearAxis(8.0), 0.125).polylines.empty());
-}
-
-// Whatever the data: three points a column at most, all at its centre, and every visible extreme
-// kept.
-TEST(SamplePlotAlgorithmTest, EveryColumnKeepsTheExtremesOfItsSamples)
-{
-    std::mt19937 random(11);
-    std::normal_distribution<double> noise;
-    for (const int count : {50, 400, 5000}) {
-        std::vector<double> samples;
-        for (int i = 0; i < count; ++i)
-            samples.push_back(noise(random));
-        const double width = 1.0 / 64; // Exact in binary, so that column edges are, too.
-        const Plot plot = plotOf(snapshot({segment(samples)}), linearAxis(count), width);
-        ASSERT_EQ(plot.polylines.size(), 1u);
-
-        std::map<double, Points> columns;
-        for (const auto& point : plot.polylines[0])
-            columns[point.first].push_back(point);
-        for (const auto& column : columns) {
-            const double left = column.first - width / 2;
-            EXPECT_LE(column.second.size(), 3u);
-            for (int i = 0; i < count; ++i) {
-                const double position = double(i) * (1.0 / count);
-                if (position < left || position >= left + width)
-                    continue;
-                const auto extremes = std::minmax_element(
-                    column.second.begin(), column.second.end(),
-                    [](const auto& a, const auto& b) { return a.second < b.second; });
-                EXPECT_GE(samples[std::size_t(i)], extremes.first->second);
-                EXPECT_LE(samples[std::size_t(i)], extremes.second->second);
-            }
-        }
-    }
 }
 
 TEST(SamplePlotAlgorithmTest, NewDataMayComeDuringARequest)
@@ -238,4 +209,98 @@ TEST(SamplePlotAlgorithmTest, NewDataMayComeDuringARequest)
             EXPECT_EQ(point.second, plot.polylines[0].front().second);
     }
     measuring.join();
+}
+
+TEST(SamplePlotAlgorithmTest, ArgumentsThatLeaveNothingToDraw)
+{
+    const PlotSnapshot data = snapshot({segment({0.1, 0.2, 0.3})});
+    for (const double width : {0.0, -0.0, -0.125, -Infinity, 1e-17, 1e-300}) {
+        EXPECT_TRUE(plotOf(data, width).polylines.empty()) << width;
+        EXPECT_TRUE(plotOf(data, width).symbols.empty()) << width;
+    }
+    EXPECT_TRUE(plotOf(data, {}, 0.125).polylines.empty());
+    SamplePlotAlgorithm algorithm;
+    algorithm.setSnapshot(data);
+    EXPECT_TRUE(algorithm.createSegments(linearAxis(), {}, 0.125, 0.5).second.isEmpty());
+    EXPECT_TRUE(plotOf(PlotSnapshot()).polylines.empty());
+    EXPECT_TRUE(plotOf(snapshot({segment({})})).polylines.empty());
+}
+
+TEST(SamplePlotAlgorithmTest, ColumnWidthsThatAreNoNumberMakeOneColumn)
+{
+    const Plot unknown = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), NaN);
+    ASSERT_EQ(unknown.polylines.size(), 1u);
+    ASSERT_EQ(unknown.polylines[0].size(), 3u); // Curve, minimum, maximum.
+    EXPECT_TRUE(std::isnan(unknown.polylines[0][0].first));
+    EXPECT_EQ(unknown.polylines[0][1].second, 0.25);
+    EXPECT_TRUE(unknown.symbols.empty());
+
+    const Plot endless = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), Infinity);
+    ASSERT_EQ(endless.polylines.size(), 1u);
+    EXPECT_EQ(endless.polylines[0], (Points{{Infinity, 0.5}, {Infinity, 0.25}, {Infinity, 0.75}}));
+}
+
+TEST(SamplePlotAlgorithmTest, ALoneSampleIsASymbol)
+{
+    const Plot inside = plotOf(snapshot({segment({0.5}, 3.0)}));
+    EXPECT_TRUE(inside.polylines.empty());
+    EXPECT_EQ(inside.symbols, (std::vector<Points>{{{0.375, 0.5}}}));
+
+    // Not on a column edge: the column before it holds no curve, so that the sample is all there
+    // is. The curve can't be read behind it, and the lone point is dropped.
+    const Plot between = plotOf(snapshot({segment({0.5}, 3.5)}));
+    EXPECT_TRUE(between.polylines.empty());
+    EXPECT_EQ(between.symbols.at(0), (Points{{0.4375, 0.5}}));
+}
+
+TEST(SamplePlotAlgorithmTest, ALonePointIsJoinedByTheNextColumnOrByItself)
+{
+    // Both samples in one column whose left edge lies before them.
+    const PlotSegment pair = segment({0.5, 0.5}, 0.25, 0.5);
+    const Plot dropped = plotOf(snapshot({pair}));
+    EXPECT_TRUE(dropped.polylines.empty());
+
+    const Plot joined = plotOf(snapshot({withCurve(pair, 0.75)}));
+    EXPECT_EQ(joined.polylines, (std::vector<Points>{{{0.0625, 0.5}, {0.1875, 0.75}}}));
+
+    const Plot doubled = plotOf(snapshot({withCurve(pair, NaN)}));
+    EXPECT_EQ(doubled.polylines, (std::vector<Points>{{{0.0625, 0.5}, {0.0625, 0.5}}}));
+}
+
+TEST(SamplePlotAlgorithmTest, TheSampleThatEndsTheWalkBelongsToTheLastColumn)
+{
+    const Plot plot = plotOf(snapshot({segment({0.25, 0.75}, 0.0, 80.0)}));
+    ASSERT_EQ(plot.symbols.size(), 1u);
+    EXPECT_EQ(plot.symbols[0].back(), std::make_pair(10.0, 0.75));
+    ASSERT_EQ(plot.polylines.size(), 1u);
+    // The column behind the axis: curve at its edge, then the far sample as its only extreme.
+    EXPECT_EQ(plot.polylines[0].back(), std::make_pair(1.0625, 0.75));
+    EXPECT_EQ(plot.polylines[0].size(), 10u);
+}
+
+TEST(SamplePlotAlgorithmTest, DataOutsideTheAxis)
+{
+    const Plot right = plotOf(snapshot({segment({0.1, 0.2, 0.3}, 9.0)}));
+    EXPECT_TRUE(right.polylines.empty() && right.symbols.empty());
+    const Plot left = plotOf(snapshot({segment({0.1, 0.2, 0.3}, -9.0)}));
+    EXPECT_TRUE(left.polylines.empty() && left.symbols.empty());
+
+    // 1.0 lies inside a column of 0.3: the walk starts, and the second sample ends it.
+    const Plot inLastColumn = plotOf(snapshot({segment({0.1, 0.2, 0.3}, 9.0)}), 0.3, 0.25);
+    EXPECT_EQ(inLastColumn.symbols.at(0), (Points{{1.125, 0.1}, {1.25, 0.2}}));
+}
+
+TEST(SamplePlotAlgorithmTest, ASubclassOfTheSplineMayAnswerWhereTheSplineDoesNot)
+{
+    struct Held : pelorin::algo::SplineAlgorithm<SampleIterator>
+    {
+        using SplineAlgorithm::SplineAlgorithm;
+        double operator[](const double& index) override
+        {
+            return covers(index) ? SplineAlgorithm::operator[](index) : 0.9;
+        }
+    };
+    const PlotSegment held = segment({0.1, 0.2, 0.3});
+    held.setSubsampler(boost::make_shared<Held>(held.begin, held.count));
+    EXPECT_EQ(plotOf(snapshot({held})).polylines.at(0).back(), std::make_pair(0.3125, 0.3));
 }

@@ -1,0 +1,169 @@
+// The sample plot against its plain rules, bit for bit, over data and axes of every kind.
+#include "kestrane/plots/SamplePlotAlgorithm.h"
+
+#include "tests/plots/PlainSamplePlot.h"
+#include "tests/support/Numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <random>
+#include <stdexcept>
+
+using pelorin::algo::Subsampler;
+using pelorin::backend::PlotSegment;
+using pelorin::backend::PlotSnapshot;
+using pelorin::ui::chart::LinearAxis;
+using pelorin::ui::chart::SamplePlotAlgorithm;
+using tests::Axis;
+using tests::Infinity;
+using tests::NaN;
+using tests::Points;
+
+namespace {
+
+// A backend's curve: through NaN now and then, and at its end something that is no exception.
+class ForeignCurve : public Subsampler
+{
+public:
+    explicit ForeignCurve(int answers)
+        : m_answers(answers)
+    {}
+
+    double operator[](const double& index) override
+    {
+        if (m_answers-- == 0)
+            throw 42;
+        return m_answers % 5 == 3 ? NaN : std::sin(index);
+    }
+
+    boost::shared_ptr<Subsampler> tail(long long) override { return {}; }
+
+private:
+    int m_answers;
+};
+
+// A host's axis, with holes or with an end at which it throws.
+class ForeignAxis : public LinearAxis
+{
+public:
+    ForeignAxis(double scale, double offset, double anchor, bool throws)
+        : LinearAxis(scale, offset, anchor)
+        , m_throws(throws)
+    {}
+
+    double transform(ScaleMode mode, double value) const override
+    {
+        const double position = LinearAxis::transform(mode, value);
+        if (m_throws && position > 0.8)
+            throw std::runtime_error("beyond this axis");
+        return std::fmod(value, 3.0) == 1.0 ? NaN : position;
+    }
+
+private:
+    bool m_throws;
+};
+
+class Dice
+{
+public:
+    explicit Dice(unsigned seed)
+        : m_random(seed)
+    {}
+
+    int upTo(int last) { return int(m_random() % std::uint32_t(last + 1)); }
+    double between(double low, double high)
+    {
+        return low + (high - low) * (double(m_random()) / 4294967296.0);
+    }
+    double oneOf(const std::vector<double>& values)
+    {
+        return values[std::size_t(upTo(int(values.size()) - 1))];
+    }
+
+private:
+    std::mt19937 m_random;
+};
+
+std::vector<double> samples(Dice& dice)
+{
+    const std::vector<double> odd{NaN, Infinity, -Infinity, 1e308, -1e308, 0.0};
+    const int oddOnes = dice.upTo(9) == 0 ? 3 : 0;
+    const double spread = dice.oneOf({1.0, 1.0, 0.0, 1e-12, 1e-13});
+    std::vector<double> result(std::size_t(dice.oneOf({0, 1, 2, 3, 5, 9, 40, 150})));
+    for (double& sample : result)
+        sample = dice.upTo(9) < oddOnes ? dice.oneOf(odd) : 0.5 + spread * dice.between(-1.0, 1.0);
+    return result;
+}
+
+PlotSnapshot snapshot(Dice& dice)
+{
+    std::vector<PlotSegment> segments;
+    for (int i = dice.upTo(3); i >= 0; --i) {
+        const auto form = [&] { return dice.upTo(4) ? Axis::Linear : Axis::Logarithmic; };
+        const double offset = dice.upTo(14) ? dice.oneOf({0.0, 0.25, -3.0, dice.between(-9.0, 9.0)})
+                                            : dice.oneOf({NaN, Infinity, 1e300, -1e300});
+        const double step = dice.upTo(14)
+                                ? dice.oneOf({1.0, 0.25, 4.0, 0.1, dice.between(0.01, 2.0), -0.7})
+                                : dice.oneOf({NaN, Infinity, 1e300, 1e-320});
+        segments.push_back(tests::segment(samples(dice), offset, step, form(), form()));
+        if (dice.upTo(5) == 0)
+            segments.back().setSubsampler(boost::make_shared<ForeignCurve>(dice.upTo(30)));
+    }
+    return PlotSnapshot(segments);
+}
+
+QSharedPointer<const Axis> axis(Dice& dice)
+{
+    const double scale = dice.upTo(9) ? dice.oneOf({0.1, 0.8, 1.0, dice.between(0.01, 3.0)})
+                                      : dice.oneOf({-0.5, 0.0, 1e-300});
+    const double offset = dice.oneOf({0.0, 0.0, 0.25, dice.between(-2.0, 5.0)});
+    const double anchor = dice.oneOf({0.0, 0.0, 0.5});
+    if (dice.upTo(7) == 0)
+        return QSharedPointer<ForeignAxis>::create(scale, offset, anchor, dice.upTo(1) == 0);
+    return QSharedPointer<LinearAxis>::create(scale, offset, anchor);
+}
+
+void expectSame(const std::vector<Points>& actual, const std::vector<Points>& expected)
+{
+    const auto same = [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); };
+    ASSERT_EQ(actual.size(), expected.size());
+    for (std::size_t i = 0; i < actual.size(); ++i) {
+        ASSERT_EQ(actual[i].size(), expected[i].size());
+        for (std::size_t k = 0; k < actual[i].size(); ++k) {
+            ASSERT_TRUE(same(actual[i][k].first, expected[i][k].first));
+            ASSERT_TRUE(same(actual[i][k].second, expected[i][k].second));
+        }
+    }
+}
+
+} // namespace
+
+TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
+{
+    int polylines = 0;
+    int symbols = 0;
+    for (unsigned seed = 0; seed < 4000 && !HasFatalFailure(); ++seed) {
+        SCOPED_TRACE(testing::Message() << "seed " << seed);
+        Dice dice(seed);
+        const auto xAxis = axis(dice);
+        const auto yAxis = axis(dice);
+        const double width = dice.upTo(19)
+                                 ? dice.oneOf({0.125, 0.1, 0.3, 0.01, dice.between(0.02, 0.5)})
+                                 : dice.oneOf({NaN, Infinity, 2.0});
+        const double spacing = dice.oneOf({0.5, 1.0, 8.0, -1.0, NaN});
+        Dice same = dice;
+        SamplePlotAlgorithm plot;
+        plot.setSnapshot(snapshot(dice));
+        const auto actual = plot.createSegments(xAxis, yAxis, width, spacing);
+        const auto expected =
+            tests::plainSamplePlot(snapshot(same), *xAxis, *yAxis, width, spacing);
+        expectSame(tests::exact(actual.first), expected.first);
+        expectSame(tests::exact(actual.second), expected.second);
+        polylines += actual.first.size();
+        symbols += actual.second.size();
+    }
+    EXPECT_GT(polylines, 2000);
+    EXPECT_GT(symbols, 2000);
+}
