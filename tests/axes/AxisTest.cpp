@@ -173,17 +173,15 @@ TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)
 {
     OpenAxis axis;
     SignalLog log(&axis);
-
     axis.update();
-    EXPECT_EQ(log.take(), QStringList{"parametersChanged(self)"});
+    EXPECT_EQ(log.take(), "parametersChanged(self)");
     axis.emitMinValChanged();
-    EXPECT_EQ(log.take(), (QStringList{"minValueChanged(0)", "parametersChanged(self)"}));
-    axis.emitMinValChanged(false);
-    EXPECT_EQ(log.take(), QStringList{"minValueChanged(0)"});
+    EXPECT_EQ(log.take(), "minValueChanged(0) parametersChanged(self)");
     axis.emitMaxValChanged();
-    EXPECT_EQ(log.take(), (QStringList{"maxValueChanged(10)", "parametersChanged(self)"}));
+    EXPECT_EQ(log.take(), "maxValueChanged(10) parametersChanged(self)");
+    axis.emitMinValChanged(false);
     axis.emitMaxValChanged(false);
-    EXPECT_EQ(log.take(), QStringList{"maxValueChanged(10)"});
+    EXPECT_EQ(log.take(), "minValueChanged(0) maxValueChanged(10)");
 }
 
 TEST(AxisMetaObjectTest, SignalsAndSlotsStandInOrder)

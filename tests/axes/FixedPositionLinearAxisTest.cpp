@@ -190,76 +190,60 @@ TEST(FixedPositionLinearAxisTest, ListenersFindStoredWhatTheyAreTold)
     EXPECT_EQ(seen, QVector<double>({130.0, 4.0, 100.0, 140.0, 110.0}));
 }
 
-TEST(FixedPositionLinearAxisTest, SettersStoreThenTellInOrder)
+TEST(FixedPositionLinearAxisTest, SettersTellInOrder)
 {
     const auto axis = centredAxis();
     SignalLog log(axis.get());
-    const QStringList tail{"ticksUpdated()", "parametersChanged(self)"};
-
+    const auto heard = [&] {
+        const QString tail = "ticksUpdated() parametersChanged(self)";
+        const QString all = log.take();
+        EXPECT_TRUE(all.endsWith(tail)) << all.toStdString();
+        return all.left(all.size() - tail.size()).trimmed();
+    };
     axis->setOffset(101.0);
-    EXPECT_EQ(log.take(),
-              QStringList({"offsetChanged(101)", "minValueChanged(91)", "maxValueChanged(111)"}) +
-                  tail);
+    EXPECT_EQ(heard(), "offsetChanged(101) minValueChanged(91) maxValueChanged(111)");
     axis->setScale(4.0);
-    EXPECT_EQ(log.take(),
-              QStringList({"scaleChanged(4)", "minValueChanged(81)", "maxValueChanged(121)"}) +
-                  tail);
+    EXPECT_EQ(heard(), "scaleChanged(4) minValueChanged(81) maxValueChanged(121)");
     axis->setAnchor(0.0);
-    EXPECT_EQ(log.take(),
-              QStringList({"anchorChanged(0)", "minValueChanged(101)", "maxValueChanged(141)"}) +
-                  tail);
+    EXPECT_EQ(heard(), "anchorChanged(0) minValueChanged(101) maxValueChanged(141)");
     axis->setNumMajorDivisions(5);
-    EXPECT_EQ(log.take(),
-              QStringList({"numMajorDivisionsChanged(5)", "maxValueChanged(121)"}) + tail);
+    EXPECT_EQ(heard(), "numMajorDivisionsChanged(5) maxValueChanged(121)");
     axis->setNumMinorDivisions(2);
-    EXPECT_EQ(log.take(), QStringList{"numMinorDivisionsChanged(2)"} + tail);
+    EXPECT_EQ(heard(), "numMinorDivisionsChanged(2)");
     axis->setOffsetIsAdded(true);
-    EXPECT_EQ(log.take(), QStringList({"offsetIsAddedChanged(true)", "minValueChanged(-101)",
-                                       "maxValueChanged(-81)"}) +
-                              tail);
+    EXPECT_EQ(heard(), "offsetIsAddedChanged(true) minValueChanged(-101) maxValueChanged(-81)");
     axis->setOffsetAndScale(1.0, 2.0);
-    EXPECT_EQ(log.take(), QStringList({"offsetChanged(1)", "scaleChanged(2)", "minValueChanged(-1)",
-                                       "maxValueChanged(9)"}) +
-                              tail);
+    EXPECT_EQ(heard(), "offsetChanged(1) scaleChanged(2) minValueChanged(-1) maxValueChanged(9)");
     axis->setOffsetAndScale(1.0, 2.0);
-    EXPECT_EQ(log.take(), tail);
+    EXPECT_EQ(heard(), "");
+
+    // Only setting both can store NaN, and replace it; NaN limits differ from themselves.
+    axis->setOffsetAndScale(NaN, 2.0);
+    EXPECT_EQ(heard(), "offsetChanged(nan) minValueChanged(nan) maxValueChanged(nan)");
+    axis->setOffset(3.0);
+    EXPECT_EQ(log.take(), "");
+    axis->setOffsetAndScale(NaN, 2.0);
+    EXPECT_EQ(heard(), "minValueChanged(nan) maxValueChanged(nan)");
+    axis->setOffsetAndScale(100.0, 2.0);
+    EXPECT_EQ(heard(), "offsetChanged(100) minValueChanged(-100) maxValueChanged(-90)");
 }
 
 TEST(FixedPositionLinearAxisTest, SettersIgnoreWhatIsEqualWithinRounding)
 {
     const auto axis = centredAxis();
     SignalLog log(axis.get());
-
     axis->setOffset(100.0 * (1.0 + 1e-13));
-    axis->setScale(2.0);
-    axis->setAnchor(NaN);
+    axis->setScale(2.0 * (1.0 - 1e-13));
+    axis->setAnchor(0.5 * (1.0 + 1e-13));
+    axis->setScale(NaN);
     axis->setNumMajorDivisions(10);
     axis->setNumMinorDivisions(5);
     axis->setOffsetIsAdded(false);
-    EXPECT_EQ(log.take(), QStringList());
-    EXPECT_EQ(axis->offset(), 100.0);
-    EXPECT_EQ(axis->anchor(), 0.5);
+    EXPECT_EQ(log.take(), "");
+    EXPECT_TRUE(*axis == *centredAxis());
 
     axis->setAnchor(0.0);
     log.take();
     axis->setAnchor(1e-300); // A stored zero equals zero alone.
-    EXPECT_EQ(log.take().first(), "anchorChanged(1e-300)");
-}
-
-TEST(FixedPositionLinearAxisTest, OnlySettingBothCanStoreAndReplaceNaN)
-{
-    const auto axis = centredAxis();
-    SignalLog log(axis.get());
-    const QStringList tail{"ticksUpdated()", "parametersChanged(self)"};
-    const QStringList unknownLimits{"minValueChanged(nan)", "maxValueChanged(nan)"};
-
-    axis->setOffsetAndScale(NaN, 2.0);
-    EXPECT_EQ(log.take(), QStringList{"offsetChanged(nan)"} + unknownLimits + tail);
-    axis->setOffset(3.0);
-    EXPECT_EQ(log.take(), QStringList());
-    axis->setOffsetAndScale(NaN, 2.0); // NaN limits differ from themselves.
-    EXPECT_EQ(log.take(), unknownLimits + tail);
-    axis->setOffsetAndScale(100.0, 2.0);
-    EXPECT_EQ(log.take().first(), "offsetChanged(100)");
-    EXPECT_EQ(axis->minValue(), 90.0);
+    EXPECT_TRUE(log.take().startsWith("anchorChanged(1e-300)"));
 }

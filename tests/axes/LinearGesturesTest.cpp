@@ -62,37 +62,30 @@ TEST_F(LinearGesturesTest, ScrollingStopsAtTheLimitsAndTheTopOneWins)
     EXPECT_TRUE(std::isnan(axis.offset()));
 }
 
-TEST_F(LinearGesturesTest, ScrollingTellsInOrderAndOnlyOfChanges)
+TEST_F(LinearGesturesTest, GesturesTellInOrderAndOnlyOfChanges)
 {
     SignalLog log(&axis);
+    const QString tail =
+        " ticksUpdated() parametersChanged(self) axisChangedViaScalingOrScrolling()";
     const auto base = axis.scrollScaleState();
     axis.scrollAxis(0.0, 0.1, base);
-    EXPECT_EQ(log.take(),
-              (QStringList{"offsetChanged(102)", "minValueChanged(92)", "maxValueChanged(112)",
-                           "ticksUpdated()", "parametersChanged(self)",
-                           "axisChangedViaScalingOrScrolling()"}));
+    EXPECT_EQ(log.take(), "offsetChanged(102) minValueChanged(92) maxValueChanged(112)" + tail);
     axis.scrollAxis(0.0, 0.1, base);
-    EXPECT_EQ(log.take(), QStringList());
     axis.scrollAxis(0.0, 1e-16, noBase); // Less than a step of the offset.
-    EXPECT_EQ(log.take(), QStringList());
-    axis.scrollAxis(0.0, 1e-14, noBase); // Within the tolerance of setOffset(), and yet a change.
-    EXPECT_EQ(log.take().size(), 6);
+    axis.scaleAxis(0.5, 0.0);
+    EXPECT_EQ(log.take(), "");
+
+    axis.scaleAxis(0.5, 0.25);
+    EXPECT_EQ(log.take(), "scaleChanged(4) minValueChanged(82) maxValueChanged(122)" + tail);
+    axis.scrollAxis(0.0, 1e-14); // Within the tolerance of setOffset(), and yet a change.
+    EXPECT_TRUE(log.take().endsWith(tail));
+    axis.scaleAxis(0.5, 1e-14);
+    EXPECT_TRUE(log.take().endsWith(tail));
 }
 
-TEST_F(LinearGesturesTest, ScalingWidensTheRangeAroundTheAnchor)
+TEST_F(LinearGesturesTest, ScalingMovesTheGrippedValueAlong)
 {
-    SignalLog log(&axis);
-    axis.scaleAxis(0.5, 0.25);
-    EXPECT_EQ(log.take(),
-              (QStringList{"scaleChanged(4)", "minValueChanged(80)", "maxValueChanged(120)",
-                           "ticksUpdated()", "parametersChanged(self)",
-                           "axisChangedViaScalingOrScrolling()"}));
-    axis.scaleAxis(0.5, 0.0);
-    EXPECT_EQ(log.take(), QStringList());
-    axis.scaleAxis(0.5, 1e-14); // Within the tolerance of setScale(), and yet a change.
-    EXPECT_EQ(log.take().size(), 6);
-
-    LinearAxis fromStart; // With the anchor at 0.0 the gripped value follows the grip.
+    LinearAxis fromStart;
     const double gripped = fromStart.inverseTransform(Axis::Linear, 0.75);
     fromStart.scaleAxis(0.75, 0.25);
     EXPECT_EQ(fromStart.transform(Axis::Linear, gripped), 0.5);

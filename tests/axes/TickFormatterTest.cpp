@@ -107,7 +107,7 @@ TEST_F(TickFormatterTest, RelativeLabelsLeaveOptionsAndListenersAlone)
     EXPECT_EQ(formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {2.0}, false), 0.5),
               QList<QString>({"0.5 signed plain", "1.5 signed plain"}));
     EXPECT_EQ(int(formatter.options()), int(ValueFormatter::NoPrefix));
-    EXPECT_EQ(log.take(), QStringList());
+    EXPECT_EQ(log.take(), "");
     formatter.setOptions(ValueFormatter::AlwaysSign);
     EXPECT_EQ(formatter.formatTick(Axis::Tick(1.0, 0.5, 0.0, {}, false), Infinity),
               QList<QString>({"-inf signed"}));
@@ -122,7 +122,7 @@ TEST_F(TickFormatterTest, ALanguageSetInAnotherThreadArrivesInItsOwn)
     TickFormatter formatter;
     SignalLog log(&formatter);
     std::thread([&] { translations.setLocale("fr_FR"); }).join();
-    EXPECT_EQ(log.take(), QStringList());
+    EXPECT_EQ(log.take(), "");
     QCoreApplication::processEvents();
     EXPECT_EQ(formatter.locale(), QLocale("fr_FR"));
     EXPECT_TRUE(log.take().contains("formatterChanged()"));

@@ -127,15 +127,6 @@ TEST(SamplePlotAlgorithmTest, DenseSamplesKeepTheirExtremes)
                                                     {0.875, 0.5}}}));
 }
 
-TEST(SamplePlotAlgorithmTest, SymbolsShowWhereSamplesAreFurtherApartThanTheSpacing)
-{
-    const PlotSnapshot data = snapshot({segment(std::vector<double>(9, 0.5))});
-    const double justBelow = std::nextafter(1.0, 0.0);
-    EXPECT_TRUE(plotOf(data, linearAxis(8.0), 0.125, 1.0).symbols.empty());
-    EXPECT_EQ(plotOf(data, linearAxis(8.0), 0.125, justBelow).symbols.at(0).size(), 9u);
-    EXPECT_TRUE(plotOf(data, linearAxis(8.0), 0.125, NaN).symbols.empty());
-}
-
 TEST(SamplePlotAlgorithmTest, SamplesLeftOfTheAxisAreSkippedAndThoseRightOfItNotVisited)
 {
     // An axis that counts what it is asked shows that the cost follows what is visible.
@@ -164,17 +155,6 @@ TEST(SamplePlotAlgorithmTest, SamplesLeftOfTheAxisAreSkippedAndThoseRightOfItNot
     EXPECT_GT(plot.symbols[0].back().first, 1.0);
     EXPECT_EQ(plot.polylines.at(0).front().first, 0.0005);
     EXPECT_NEAR(plot.polylines.at(0).back().first, 1.0005, 1e-12);
-}
-
-TEST(SamplePlotAlgorithmTest, SegmentsStayApart)
-{
-    const Plot plot = plotOf(snapshot({segment({0.1, 0.2, 0.3}), segment({0.4, 0.5, 0.6}, 5.0)}),
-                             linearAxis(8.0), 0.125, 0.5);
-    ASSERT_EQ(plot.polylines.size(), 2u);
-    EXPECT_EQ(plot.polylines[0], (Points{{0.0625, 0.1}, {0.1875, 0.2}}));
-    EXPECT_EQ(plot.polylines[1], (Points{{0.6875, 0.4}, {0.8125, 0.5}}));
-    ASSERT_EQ(plot.symbols.size(), 2u);
-    EXPECT_EQ(plot.symbols[1], (Points{{0.625, 0.4}, {0.75, 0.5}, {0.875, 0.6}}));
 }
 
 TEST(SamplePlotAlgorithmTest, ASecondCallBuildsNothingNewAndGivesTheSame)
@@ -226,68 +206,52 @@ TEST(SamplePlotAlgorithmTest, ArgumentsThatLeaveNothingToDraw)
     EXPECT_TRUE(plotOf(snapshot({segment({})})).polylines.empty());
 }
 
-TEST(SamplePlotAlgorithmTest, ColumnWidthsThatAreNoNumberMakeOneColumn)
+TEST(SamplePlotAlgorithmTest, EdgesOfTheData)
 {
-    const Plot unknown = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), NaN);
-    ASSERT_EQ(unknown.polylines.size(), 1u);
-    ASSERT_EQ(unknown.polylines[0].size(), 3u); // Curve, minimum, maximum.
-    EXPECT_TRUE(std::isnan(unknown.polylines[0][0].first));
-    EXPECT_EQ(unknown.polylines[0][1].second, 0.25);
-    EXPECT_TRUE(unknown.symbols.empty());
-
-    const Plot endless = plotOf(snapshot({segment({0.5, 0.25, 0.75})}), Infinity);
-    ASSERT_EQ(endless.polylines.size(), 1u);
-    EXPECT_EQ(endless.polylines[0], (Points{{Infinity, 0.5}, {Infinity, 0.25}, {Infinity, 0.75}}));
-}
-
-TEST(SamplePlotAlgorithmTest, ALoneSampleIsASymbol)
-{
-    const Plot inside = plotOf(snapshot({segment({0.5}, 3.0)}));
-    EXPECT_TRUE(inside.polylines.empty());
-    EXPECT_EQ(inside.symbols, (std::vector<Points>{{{0.375, 0.5}}}));
-
-    // Not on a column edge: the column before it holds no curve, so that the sample is all there
-    // is. The curve can't be read behind it, and the lone point is dropped.
-    const Plot between = plotOf(snapshot({segment({0.5}, 3.5)}));
-    EXPECT_TRUE(between.polylines.empty());
-    EXPECT_EQ(between.symbols.at(0), (Points{{0.4375, 0.5}}));
-}
-
-TEST(SamplePlotAlgorithmTest, ALonePointIsJoinedByTheNextColumnOrByItself)
-{
-    // Both samples in one column whose left edge lies before them.
-    const PlotSegment pair = segment({0.5, 0.5}, 0.25, 0.5);
-    const Plot dropped = plotOf(snapshot({pair}));
-    EXPECT_TRUE(dropped.polylines.empty());
-
-    const Plot joined = plotOf(snapshot({withCurve(pair, 0.75)}));
-    EXPECT_EQ(joined.polylines, (std::vector<Points>{{{0.0625, 0.5}, {0.1875, 0.75}}}));
-
-    const Plot doubled = plotOf(snapshot({withCurve(pair, NaN)}));
-    EXPECT_EQ(doubled.polylines, (std::vector<Points>{{{0.0625, 0.5}, {0.0625, 0.5}}}));
-}
-
-TEST(SamplePlotAlgorithmTest, TheSampleThatEndsTheWalkBelongsToTheLastColumn)
-{
-    const Plot plot = plotOf(snapshot({segment({0.25, 0.75}, 0.0, 80.0)}));
-    ASSERT_EQ(plot.symbols.size(), 1u);
-    EXPECT_EQ(plot.symbols[0].back(), std::make_pair(10.0, 0.75));
-    ASSERT_EQ(plot.polylines.size(), 1u);
-    // The column behind the axis: curve at its edge, then the far sample as its only extreme.
-    EXPECT_EQ(plot.polylines[0].back(), std::make_pair(1.0625, 0.75));
-    EXPECT_EQ(plot.polylines[0].size(), 10u);
-}
-
-TEST(SamplePlotAlgorithmTest, DataOutsideTheAxis)
-{
-    const Plot right = plotOf(snapshot({segment({0.1, 0.2, 0.3}, 9.0)}));
-    EXPECT_TRUE(right.polylines.empty() && right.symbols.empty());
-    const Plot left = plotOf(snapshot({segment({0.1, 0.2, 0.3}, -9.0)}));
-    EXPECT_TRUE(left.polylines.empty() && left.symbols.empty());
-
-    // 1.0 lies inside a column of 0.3: the walk starts, and the second sample ends it.
-    const Plot inLastColumn = plotOf(snapshot({segment({0.1, 0.2, 0.3}, 9.0)}), 0.3, 0.25);
-    EXPECT_EQ(inLastColumn.symbols.at(0), (Points{{1.125, 0.1}, {1.25, 0.2}}));
+    const PlotSegment pair = segment({0.5, 0.5}, 0.25, 0.5); // In one column, behind its edge.
+    const PlotSegment right = segment({0.5, 0.5, 0.5}, 9.0);
+    struct Row
+    {
+        const char* what;
+        PlotSnapshot data;
+        double columnWidth;
+        std::vector<Points> polylines;
+        std::vector<Points> symbols;
+    };
+    const std::vector<Points> threeSymbols{{{0.0, 0.1}, {0.125, 0.2}, {0.25, 0.3}}};
+    const std::vector<Points> pairOfSymbols{{{0.03125, 0.5}, {0.09375, 0.5}}};
+    // clang-format off
+    const Row rows[] = {
+        {"two segments", snapshot({segment({0.1, 0.2, 0.3}), segment({0.4, 0.5, 0.6}, 5.0)}), 0.125,
+         {{{0.0625, 0.1}, {0.1875, 0.2}}, {{0.6875, 0.4}, {0.8125, 0.5}}},
+         {threeSymbols[0], {{0.625, 0.4}, {0.75, 0.5}, {0.875, 0.6}}}},
+        {"a lone sample on an edge", snapshot({segment({0.5}, 3.0)}), 0.125, {}, {{{0.375, 0.5}}}},
+        {"one between edges", snapshot({segment({0.5}, 3.5)}), 0.125, {}, {{{0.4375, 0.5}}}},
+        {"a lone point whose curve ends", snapshot({pair}), 0.125, {}, pairOfSymbols},
+        {"one that the next column joins", snapshot({withCurve(pair, 0.75)}), 0.125,
+         {{{0.0625, 0.5}, {0.1875, 0.75}}}, pairOfSymbols},
+        {"one that joins itself", snapshot({withCurve(pair, NaN)}), 0.125,
+         {{{0.0625, 0.5}, {0.0625, 0.5}}}, pairOfSymbols},
+        {"data on the left", snapshot({segment({0.1, 0.2, 0.3}, -9.0)}), 0.125, {}, {}},
+        {"data on the right", snapshot({right}), 0.125, {}, {}},
+        {"the same, 1.0 inside a column", snapshot({right}), 0.3125,
+         {{{1.09375, 0.5}, {1.40625, 0.5}}}, {{{1.125, 0.5}, {1.25, 0.5}}}},
+        {"a far sample ends the walk", snapshot({segment({0.25, 0.75}, 0.0, 80.0)}), 1.0,
+         {{{0.5, 0.25}, {1.5, 0.3}, {1.5, 0.75}}}, {{{0.0, 0.25}, {10.0, 0.75}}}},
+        {"no samples behind a segment",
+         snapshot({segment({0.1, 0.2, 0.3}), withCurve(segment({}), 0.5)}), 0.125,
+         {{{0.0625, 0.1}, {0.1875, 0.2}}, {{0.3125, 0.5}, {0.4375, 0.5}}}, threeSymbols},
+        {"NaN among the samples", snapshot({segment({0.1, NaN, 0.3})}), 0.125, {},
+         {{{0.0, 0.1}, {0.25, 0.3}}}},
+        {"one endless column", snapshot({segment({0.5, 0.25, 0.75})}), Infinity,
+         {{{Infinity, 0.5}, {Infinity, 0.25}, {Infinity, 0.75}}}, {}},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        const Plot plot = plotOf(row.data, row.columnWidth, 0.25);
+        EXPECT_EQ(plot.polylines, row.polylines) << row.what;
+        EXPECT_EQ(plot.symbols, row.symbols) << row.what;
+    }
 }
 
 TEST(SamplePlotAlgorithmTest, ASubclassOfTheSplineMayAnswerWhereTheSplineDoesNot)

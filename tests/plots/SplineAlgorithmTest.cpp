@@ -72,25 +72,6 @@ TEST(SplineAlgorithmTest, PassesThroughEverySampleExactly)
         EXPECT_EQ(curve[double(i)], samples[i]);
 }
 
-TEST(SplineAlgorithmTest, IsSmoothAndNearTheExactSplineAwayFromTheStart)
-{
-    // A cubic without curvature at the ends of its period: the exact natural spline of a sine.
-    std::vector<double> samples;
-    const double step = 0.05;
-    for (int i = 0; i <= 1000; ++i)
-        samples.push_back(std::sin(i * step));
-    Spline curve = spline(samples);
-    for (double index = 20.25; index < 980.0; index += 0.5)
-        EXPECT_NEAR(curve[index], std::sin(index * step), 3e-8) << index;
-
-    for (const double knot : {30.0, 500.0, 970.0}) { // One slope from both sides.
-        const double h = 1e-6;
-        const double before = (curve[knot] - curve[knot - h]) / h;
-        const double after = (curve[knot + h] - curve[knot]) / h;
-        EXPECT_NEAR(before, after, 1e-6) << knot;
-    }
-}
-
 TEST(SplineAlgorithmTest, TheAnswerDependsOnTheIndexAlone)
 {
     const std::vector<double> samples = randomWalk(50);

@@ -2,6 +2,8 @@
 
 #include <QMetaMethod>
 
+#include <utility>
+
 namespace tests {
 
 // A slot of this object exists for each signal of the sender only as a number: behind the methods
@@ -18,11 +20,9 @@ SignalLog::SignalLog(QObject* sender)
     }
 }
 
-QStringList SignalLog::take()
+QString SignalLog::take()
 {
-    const QStringList heard = m_heard;
-    m_heard.clear();
-    return heard;
+    return std::exchange(m_heard, QStringList()).join(' ');
 }
 
 int SignalLog::qt_metacall(QMetaObject::Call call, int id, void** arguments)
@@ -45,7 +45,7 @@ QString SignalLog::written(const QMetaMethod& signal, void** arguments) const
         else
             values << QVariant(signal.parameterType(i), value).toString();
     }
-    return QString::fromLatin1(signal.name()) + '(' + values.join(", ") + ')';
+    return QString::fromLatin1(signal.name()) + '(' + values.join(",") + ')';
 }
 
 } // namespace tests

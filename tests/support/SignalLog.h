@@ -15,8 +15,8 @@ class SignalLog : public QObject
 public:
     explicit SignalLog(QObject* sender);
 
-    /// What has been heard since the last call.
-    QStringList take();
+    /// What has been heard since the last call, separated by blanks.
+    QString take();
 
     int qt_metacall(QMetaObject::Call call, int id, void** arguments) override;
 
