@@ -1,5 +1,4 @@
 #include "hosts/charting/ChartLayout.h"
-#include "hosts/charting/LabelPlacer.h"
 
 #include <gtest/gtest.h>
 
@@ -28,22 +27,14 @@ TickMark mark(double place, const QString& label, bool major = true)
     return {place, major, label.isEmpty() ? QStringList() : QStringList{label}};
 }
 
-QVector<QRectF> allTexts(const ChartLayout& layout)
+void expectApartAndInside(const ChartLayout& layout)
 {
-    QVector<QRectF> places;
-    for (const PlacedText& text : {layout.title, layout.xCaption, layout.yCaption})
-        places.append(text.place);
+    const QRectF picture(QPointF(0.0, 0.0), layout.size);
+    QVector<QRectF> places = {layout.title.place, layout.xCaption.place, layout.yCaption.place};
     for (const LegendEntry& entry : layout.legend)
         places.append(entry.name.place);
     for (const PlacedText& label : layout.tickLabels)
         places.append(label.place);
-    return places;
-}
-
-void expectApartAndInside(const ChartLayout& layout)
-{
-    const QRectF picture(QPointF(0.0, 0.0), layout.size);
-    const QVector<QRectF> places = allTexts(layout);
     for (int i = 0; i < places.size(); ++i) {
         EXPECT_TRUE(places[i].isEmpty() || picture.contains(places[i])) << i;
         EXPECT_FALSE(places[i].intersects(layout.plot)) << i;
@@ -119,20 +110,6 @@ TEST(ChartLayoutTest, TheLegendCountsTheNamesThatHaveNoRoom)
     EXPECT_GT(layout.plot.height(), 150.0);
     texts.legend = texts.legend.mid(0, 3);
     EXPECT_EQ(ChartLayout::of(QSizeF(500, 300), texts, typewriter).legend.last().curve, 2);
-}
-
-TEST(LabelPlacerTest, PlacesKeepTheGapAndTheBounds)
-{
-    LabelPlacer placer(QRectF(0, 0, 100, 50), QSizeF(8, 2));
-    EXPECT_TRUE(placer.take(QRectF(0, 0, 20, 10)));
-    EXPECT_FALSE(placer.take(QRectF(27, 0, 20, 10)));
-    EXPECT_TRUE(placer.take(QRectF(28, 0, 20, 10)));
-    EXPECT_FALSE(placer.take(QRectF(0, 11, 20, 10)));
-    EXPECT_TRUE(placer.take(QRectF(0, 12, 20, 10)));
-    EXPECT_FALSE(placer.take(QRectF(81, 0, 20, 10)));
-    EXPECT_TRUE(placer.take(QRectF(80, 40, 20, 10)));
-    EXPECT_FALSE(placer.take(QRectF(60, 20, 0, 10)));
-    EXPECT_FALSE(placer.take(QRectF(qQNaN(), 20, 10, 10)));
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 namespace hosts::charting {
 
 namespace {
@@ -18,7 +20,7 @@ struct Case
 class KestraneChartErrorsTest : public testing::Test
 {
 protected:
-    KestraneChartErrorsTest()
+    void SetUp() override
     {
         chart.write("in.csv", "time,a,b\n0,1,4\n1,2,5\n2,3,\n3,4,\n4,5,5\n");
         chart.write("empty.csv", QByteArray());
@@ -28,7 +30,8 @@ protected:
         chart.write("out.png", "before");
         QDir(chart.path(".")).mkdir("folder");
         QDir(chart.path(".")).mkdir("folder.png");
-        files = QDir(chart.path(".")).entryList();
+        ASSERT_EQ(mkfifo(QFile::encodeName(chart.path("pipe")).constData(), 0600), 0);
+        files = QDir(chart.path(".")).entryList(QDir::AllEntries | QDir::System);
     }
 
     void expectRefused(const Case& c)
@@ -36,11 +39,13 @@ protected:
         const QStringList arguments = QString::fromUtf8(c.arguments).split(QLatin1Char(' '));
         EXPECT_EQ(chart.run(arguments), c.exitCode) << c.arguments;
         const QString line = chart.errors();
-        EXPECT_TRUE(line.startsWith(QLatin1String("kestrane-chart: "))) << c.arguments;
         EXPECT_EQ(line.count(QLatin1Char('\n')), 1) << line.toStdString();
-        EXPECT_TRUE(line.contains(QString::fromUtf8(c.error))) << line.toStdString();
+        EXPECT_TRUE(line.startsWith(QLatin1String("kestrane-chart: ")) &&
+                    line.contains(QString::fromUtf8(c.error)))
+            << line.toStdString();
         EXPECT_EQ(chart.output(), QString()) << c.arguments;
-        EXPECT_EQ(QDir(chart.path(".")).entryList(), files) << c.arguments;
+        EXPECT_EQ(QDir(chart.path(".")).entryList(QDir::AllEntries | QDir::System), files)
+            << c.arguments;
         EXPECT_EQ(chart.read("out.png"), QByteArray("before")) << c.arguments;
     }
 
@@ -48,22 +53,18 @@ protected:
     QStringList files;
 };
 
-TEST_F(KestraneChartErrorsTest, WrongUsageIsSaidInOneLineAndExitsWithTwo)
+TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
 {
     const Case cases[] = {
         {"in.csv", 2, "--output is required"},
         {"-o out.png", 2, "INPUT is required"},
         {"in.csv -o out.png --bogus", 2, "--bogus"},
         {"in.csv -o out.gif", 2, "out.gif: the name must end in .png, .svg or .pdf"},
-        {"in.csv -o out", 2, "out: the name must end in"},
         {"in.csv -o out.png --size 100x100", 2, "--size 100x100: give WIDTHxHEIGHT"},
-        {"in.csv -o out.png --size 1000", 2, "--size 1000: give WIDTHxHEIGHT"},
         {"in.csv -o out.png --size 99999x99999", 2, "is too large"},
         {"in.csv -o out.png --dpi 0", 2, "--dpi 0"},
         {"in.csv -o out.png --dpi nan", 2, "--dpi: not a finite number"},
-        {"in.csv -o out.png --dpi x", 2, "--dpi"},
         {"in.csv -o out.png --from 3 --to 1", 2, "--from 3 --to 1: the range is empty"},
-        {"in.csv -o out.png --from nan", 2, "--from: not a finite number"},
         {"in.csv -o out.png --to 1e999", 2, "--to: not a finite number"},
         {"in.csv -o out.png --bottom 1 --top 1", 2, "--bottom 1 --top 1: the range is empty"},
         {"in.csv -o out.png --from 1 --to 1.0000000000001", 2, "too narrow"},
@@ -72,28 +73,19 @@ TEST_F(KestraneChartErrorsTest, WrongUsageIsSaidInOneLineAndExitsWithTwo)
         {"in.csv -o out.png --channel 0", 2, "--channel 0"},
         {"in.csv -o out.png --x-quantity tme", 2, "unknown quantity 'tme'; there are"},
         {"in.csv -o out.png --x-unit s --x-quantity time", 2, "--x-quantity excludes --x-unit"},
-        {"in.csv -o out.png --look blue", 2, "--look"},
         {"in.csv -o out.png --legend 1 --legend 2 --legend 3", 2, "3 names, but only 2 to draw"},
         {"out.png -o out.png", 2, "out.png: would be overwritten by the picture"},
         {"in.csv -o ./folder/../a\nb\x01.gif", 2, "a?b?.gif: the name must end"},
-    };
-    for (const Case& c : cases)
-        expectRefused(c);
-}
-
-TEST_F(KestraneChartErrorsTest, WorkThatFailsIsSaidInOneLineAndExitsWithOne)
-{
-    const Case cases[] = {
-        {"none.csv -o out.png", 1, "none.csv: "},
-        {"folder -o out.png", 1, "folder: "},
-        {"empty.csv -o out.png", 1, "empty.csv: "},
-        {"rubbish.csv -o out.png", 1, "rubbish.csv"},
-        {"text.csv -o out.png", 1, "text.csv: "},
-        {"/dev/zero -o out.png", 1, "/dev/zero: "},
+        {"none.csv -o out.png", 1, "none.csv: there is no such file"},
+        {"folder -o out.png", 1, "folder: is a directory, not a file"},
+        {"pipe -o out.png", 1, "pipe: is a device or a pipe, not a regular file"},
+        {"empty.csv -o out.png", 1, "empty.csv: is empty"},
+        {"rubbish.csv -o out.png", 1, "rubbish.csv, line 1: a NUL byte"},
+        {"text.csv -o out.png", 1, "text.csv: no column holds mainly numbers"},
         {"in.csv none.csv -o out.png", 1, "none.csv: "},
         {"in.csv -o out.png --column c", 1, "in.csv: "},
-        {"in.csv -o out.png --from 100", 1, "--from 100: the data go from 0 to 4"},
-        {"in.csv -o out.png --from 7 --to 9", 1, "--from 7 --to 9: the data go from 0 to 4"},
+        {"in.csv -o out.png --from 100 --to 200", 1,
+         "--from 100 --to 200: the data go from 0 to 4"},
         {"in.csv -o out.png --bottom 50", 1, "--bottom 50: the data go from 1 to 5"},
         {"in.csv -o out.png --column b --from 1.5 --to 3.5", 1,
          "--from 1.5 --to 3.5: a gap in the data"},

@@ -10,46 +10,38 @@ namespace hosts::data {
 
 namespace {
 
-constexpr int Rate = 8000;
-
-/// A stereo sound of @p frames frames: ramps of multiples of 1/64, up and down.
 QByteArray soundOf(const Reading& reading, int format, std::vector<double> frames)
 {
-    const QString path = reading.directory.filePath("sound");
+    QFile file(reading.directory.filePath("sound"));
     SF_INFO info = {};
-    info.samplerate = Rate;
+    info.samplerate = 8000;
     info.channels = 2;
     info.format = format;
-    SNDFILE* const sound = sf_open(QFile::encodeName(path).constData(), SFM_WRITE, &info);
+    SNDFILE* const sound =
+        sf_open(QFile::encodeName(file.fileName()).constData(), SFM_WRITE, &info);
     sf_writef_double(sound, frames.data(), static_cast<sf_count_t>(frames.size() / 2));
     sf_close(sound);
-    QFile file(path);
     file.open(QIODevice::ReadOnly);
     return file.readAll();
 }
 
+/// Stereo, multiples of 1/64, up and down.
 std::vector<double> ramps(int count)
 {
     std::vector<double> frames;
-    for (int i = 0; i < count; ++i) {
-        frames.push_back((i % 64) / 64.0);
-        frames.push_back(-(i % 64) / 64.0);
-    }
+    for (int i = 0; i < 2 * count; ++i)
+        frames.push_back((i % 2 == 0 ? 1.0 : -1.0) * (i / 2 % 64) / 64.0);
     return frames;
 }
 
 TEST(AudioReaderTest, ReadsTheChannelsAskedForWhateverTheFileIsCalled)
 {
     const Reading reading;
-    const QByteArray wav = soundOf(reading, SF_FORMAT_WAV | SF_FORMAT_PCM_16, ramps(3));
-    const QByteArray flac = soundOf(reading, SF_FORMAT_FLAC | SF_FORMAT_PCM_16, ramps(3));
-    const QByteArray aiff = soundOf(reading, SF_FORMAT_AIFF | SF_FORMAT_PCM_24, ramps(3));
     const char* const up = "file 1 0:0.000125[0 0.015625 0.03125]";
     const char* const down = "file 2 0:0.000125[0 -0.015625 -0.03125]";
-    const std::string both = std::string(up) + " | " + down;
-    EXPECT_EQ(reading.read(wav), both);
-    EXPECT_EQ(reading.read(flac), both);
-    EXPECT_EQ(reading.read(aiff), both);
+    for (const int format : {SF_FORMAT_FLAC | SF_FORMAT_PCM_16, SF_FORMAT_AIFF | SF_FORMAT_PCM_24})
+        EXPECT_EQ(reading.read(soundOf(reading, format, ramps(3))), std::string(up) + " | " + down);
+    const QByteArray wav = soundOf(reading, SF_FORMAT_WAV | SF_FORMAT_PCM_16, ramps(3));
     EXPECT_EQ(reading.read(wav, {{"2"}, "none", {}, {}}), down);
     EXPECT_EQ(reading.read(wav, {{"1"}, "", 4.0, 0.5}), "file 1 4:0.5[0 0.015625 0.03125]");
     EXPECT_EQ(reading.read(wav, {{"3"}, "", {}, {}}),

@@ -8,16 +8,10 @@ namespace hosts::data {
 
 namespace {
 
-struct Table
-{
-    const char* bytes;
-    const char* series;
-};
-
 TEST(CsvReaderTest, ReadsWhatSpreadsheetsAndInstrumentsWrite)
 {
     // clang-format off
-    const Table tables[] = {
+    const char* const tables[][2] = {
         // separators and decimals
         {"a,b\n1,2\n3,4\n",                  "a 0:1[1 3] | b 0:1[2 4]"},
         {"a\tb\n1\t2\n3\t4\n",               "a 0:1[1 3] | b 0:1[2 4]"},
@@ -35,17 +29,7 @@ TEST(CsvReaderTest, ReadsWhatSpreadsheetsAndInstrumentsWrite)
         {"t,1,2\n0,3,4\n",                   "1 0:1[3] | 2 0:1[4]"},
         // numbers in all shapes
         {"v\n+1\n 2 \n.5\n1e3\n-0x1\n",      "v 0:1[1 2 0.5 1000]"},
-    };
-    // clang-format on
-    const Reading reading;
-    for (const Table& table : tables)
-        EXPECT_EQ(reading.read(table.bytes), table.series) << table.bytes;
-}
-
-TEST(CsvReaderTest, AGapEndsASegmentAndTheNextNumberBeginsOneAtItsOwnPlace)
-{
-    // clang-format off
-    const Table tables[] = {
+        // gaps, which end a segment; the next number begins one at its own place
         {"v\n1\n\n3\n",                   "v 0:1[1] 2:1[3]"},
         {"v\n1\nNaN\nNA\n-\nbroken\n6\n", "v 0:1[1] 5:1[6]"},
         {"v\n1\ninf\n-Infinity\n1e999\n5\n", "v 0:1[1] 4:1[5]"},
@@ -56,8 +40,8 @@ TEST(CsvReaderTest, AGapEndsASegmentAndTheNextNumberBeginsOneAtItsOwnPlace)
     };
     // clang-format on
     const Reading reading;
-    for (const Table& table : tables)
-        EXPECT_EQ(reading.read(table.bytes), table.series) << table.bytes;
+    for (const auto& [bytes, series] : tables)
+        EXPECT_EQ(reading.read(bytes), series) << bytes;
 }
 
 TEST(CsvReaderTest, TakesTheColumnsAskedForInTheirOrder)
@@ -92,8 +76,7 @@ TEST(CsvReaderTest, StartAndStepPlaceTheRows)
     const struct
     {
         QByteArray table;
-        std::optional<double> start;
-        std::optional<double> step;
+        std::optional<double> start, step;
         const char* series;
     } cases[] = {
         // clang-format off

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sys/stat.h>
-
 namespace hosts::data {
 
 namespace {
@@ -24,7 +22,6 @@ TEST(ReadErrorTest, SaysInOneLineWhatIsWrongWithATable)
         {QByteArray(1 << 19, 'x'), {},
          "file, line 1: the first row is longer than 256 KiB; is a quotation mark left open in it?"},
         {"a,b\nx,y\n",          {},    "file: no column holds mainly numbers"},
-        {"a,b\n",               {},    "file: no column holds mainly numbers"},
         {"a,b\n1,y\n",          {"b"}, "file: column 2 (\"b\") holds no numbers"},
         {"a\n1\n\"2\n3\n",      {},
          "file, line 3: a quotation mark opened in this row is never closed"},
@@ -42,39 +39,13 @@ TEST(ReadErrorTest, SaysInOneLineWhatIsWrongWithATable)
         EXPECT_EQ(reading.read(c.bytes, {c.columns, "", {}, {}}), c.message);
 }
 
-std::string messageFor(const Reading& reading, const QString& path)
-{
-    try {
-        readRecording(path, {});
-        return {};
-    } catch (const ReadError& error) {
-        return reading.withoutDirectory(error);
-    }
-}
-
-TEST(ReadErrorTest, RefusesWhatIsNoRegularFile)
-{
-    const Reading reading;
-    const QString pipe = reading.directory.filePath("pipe");
-    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    EXPECT_EQ(messageFor(reading, pipe), "pipe: is a device or a pipe, not a regular file");
-    EXPECT_EQ(messageFor(reading, "/dev/zero"),
-              "/dev/zero: is a device or a pipe, not a regular file");
-    EXPECT_EQ(messageFor(reading, reading.directory.path() + "/."),
-              ".: is a directory, not a file");
-    EXPECT_EQ(messageFor(reading, reading.directory.filePath("absent")),
-              "absent: there is no such file");
-}
-
 TEST(ReadErrorTest, StaysOneLineWhateverIsInNamesAndCells)
 {
-    const QString odd = QString::fromUtf8("a\nb\033[1m\u2028\u20ac\U0001F600");
-    const ReadError error(odd, 7, quoted(odd));
-    EXPECT_EQ(QString::fromUtf8(error.what()),
-              QString::fromUtf8("a?b?[1m?\u20ac\U0001F600, line 7: "
-                                "\"a?b?[1m?\u20ac\U0001F600\""));
     const Reading reading;
-    EXPECT_EQ(reading.read("", {}, "new\nline"), "new?line: is empty");
+    EXPECT_EQ(reading.read("", {}, QString::fromUtf8("a\nb\033[1m\u2028\u20ac\U0001F600")),
+              "a?b?[1m?\u20ac\U0001F600: is empty");
+    EXPECT_EQ(reading.read("v\n1\n", {{"\x01"}, "", {}, {}}),
+              "file: no column \"?\"; there are 1: \"v\"");
 }
 
 } // namespace

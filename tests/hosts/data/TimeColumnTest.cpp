@@ -11,9 +11,7 @@ namespace {
 
 struct Case
 {
-    const char* bytes;
-    const char* timeColumn;
-    const char* series;
+    const char *bytes, *timeColumn, *series;
 };
 
 TEST(TimeColumnTest, GivesOffsetAndScaleAndTellsOfMissingStretches)
@@ -72,20 +70,15 @@ TEST(TimeColumnTest, RefusesTimesThatAreNotRegular)
         EXPECT_EQ(reading.read(c.bytes, {{}, c.timeColumn, {}, {}}), c.series + hint) << c.bytes;
 }
 
-/// How programs write times: number format of the C library, step, and the most by which a sample
-/// may lie off the time in the file.
-struct Format
-{
-    const char* format;
-    double first;
-    double step;
-    double bound;
-};
-
 TEST(TimeColumnTest, RoundedTimesAreRegularWithinTheirRoundingUnit)
 {
+    // How programs write times, and the most by which a sample may lie off the time in the file.
     // clang-format off
-    const Format formats[] = {
+    const struct
+    {
+        const char* format;
+        double first, step, bound;
+    } formats[] = {
         {"%.3f",  0.0,          1.0 / 360.0,   1e-3},
         {"%.3f",  1.7e9,        1.0 / 360.0,   1e-3},
         {"%.2f",  -3.0,         1.0 / 44.1,    1e-2},
@@ -96,7 +89,7 @@ TEST(TimeColumnTest, RoundedTimesAreRegularWithinTheirRoundingUnit)
     };
     // clang-format on
     const Reading reading;
-    for (const Format& f : formats) {
+    for (const auto& f : formats) {
         QByteArray table = "t,v\n";
         std::vector<double> times;
         for (int row = 0; row < 20000; ++row) {
