@@ -7,9 +7,8 @@
 
 namespace tests {
 
+using namespace pelorin::backend;
 using pelorin::algo::Subsampler;
-using pelorin::backend::PlotSegment;
-using pelorin::backend::PlotSnapshot;
 
 namespace {
 
@@ -46,8 +45,7 @@ public:
 private:
     static double& at(std::vector<double>& values, int i) { return values[std::size_t(i)]; }
 
-    std::vector<double> y;
-    std::vector<double> c;
+    std::vector<double> y, c;
 };
 
 bool fuzzyEqual(double a, double b)
@@ -57,23 +55,13 @@ bool fuzzyEqual(double a, double b)
 
 struct Walk
 {
-    Walk(const Axis& x, const Axis& y, double width, double spacing)
-        : xAxis(x)
-        , yAxis(y)
-        , columnWidth(width)
-        , symbolSpacing(spacing)
-        , right(width)
-    {}
-
     const Axis& xAxis;
     const Axis& yAxis;
-    double columnWidth;
-    double symbolSpacing;
-    double left = 0.0;
-    double right;
+    double columnWidth, symbolSpacing;
+    double left = 0.0, right = columnWidth;
 
-    Points polyline, symbols;
-    std::vector<double> column; // The y positions in the present column.
+    Points polyline = {}, symbols = {};
+    std::vector<double> column = {}; // The y positions in the present column.
 
     double indexAt(const PlotSegment& segment, double position) const
     {
@@ -169,7 +157,7 @@ plainSamplePlot(const PlotSnapshot& snapshot, const Axis& xAxis, const Axis& yAx
                 double columnWidth, double symbolSpacing)
 {
     std::pair<std::vector<Points>, std::vector<Points>> result;
-    Walk walk(xAxis, yAxis, columnWidth, symbolSpacing);
+    Walk walk{xAxis, yAxis, columnWidth, symbolSpacing};
     for (const PlotSegment& segment : snapshot.segments) {
         walk.polyline.clear();
         walk.symbols.clear();

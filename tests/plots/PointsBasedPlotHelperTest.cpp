@@ -2,21 +2,17 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
 #include <vector>
-
-using pelorin::algo::MinMaxAverageAlgorithm;
-using pelorin::ui::chart::PointsBasedPlotHelper;
 
 TEST(PointsBasedPlotHelperTest, AColumnBecomesFirstMinimumMaximumLastWithoutRepeats)
 {
     struct Row
     {
-        std::vector<double> values;
-        std::vector<double> points;
+        std::vector<double> values, points;
     };
-    const double justAboveTwo = 2.0 + 4.5e-16;
+    const double above = 2.0 + 4.5e-16; // The next number: there is no tolerance.
     const Row rows[] = {
+        {{-100, 100}, {-100, 100}}, // Forgotten by the columns behind it.
         {{}, {}},
         {{7}, {7}},
         {{5, 5, 5}, {5}},
@@ -25,12 +21,12 @@ TEST(PointsBasedPlotHelperTest, AColumnBecomesFirstMinimumMaximumLastWithoutRepe
         {{3, 1, 2}, {3, 1, 3, 2}},
         {{2, 1, 3}, {2, 1, 3}},
         {{1, 3, 2}, {1, 3, 2}},
-        {{2, justAboveTwo}, {2, justAboveTwo}}, // No tolerance.
+        {{above, 2, above}, {above, 2, above}},
+        {{2, above, 2}, {2, above, 2}},
     };
-
-    PointsBasedPlotHelper helper;
+    pelorin::ui::chart::PointsBasedPlotHelper helper;
+    pelorin::algo::MinMaxAverageAlgorithm minMax;
     for (const Row& row : rows) {
-        MinMaxAverageAlgorithm minMax;
         for (const double value : row.values)
             minMax.put(value);
         QVector<QPointF> points{QPointF(9.0, 9.0)};
@@ -43,19 +39,4 @@ TEST(PointsBasedPlotHelperTest, AColumnBecomesFirstMinimumMaximumLastWithoutRepe
         }
         EXPECT_EQ(minMax.count(), 0u);
     }
-}
-
-TEST(PointsBasedPlotHelperTest, ValuesOfTheColumnBeforeAreForgotten)
-{
-    PointsBasedPlotHelper helper;
-    MinMaxAverageAlgorithm minMax;
-    QVector<QPointF> points;
-    minMax.put(-100.0);
-    minMax.put(100.0);
-    helper.flushMinMax(0.0, minMax, points);
-    points.clear();
-    minMax.put(1.0);
-    minMax.put(2.0);
-    helper.flushMinMax(0.1, minMax, points);
-    EXPECT_EQ(points, QVector<QPointF>({QPointF(0.1, 1.0), QPointF(0.1, 2.0)}));
 }

@@ -11,20 +11,14 @@
 #include <random>
 #include <stdexcept>
 
-using pelorin::algo::Subsampler;
-using pelorin::backend::PlotSegment;
-using pelorin::backend::PlotSnapshot;
-using pelorin::ui::chart::LinearAxis;
-using pelorin::ui::chart::SamplePlotAlgorithm;
-using tests::Axis;
-using tests::Infinity;
-using tests::NaN;
-using tests::Points;
+using namespace pelorin::backend;
+using namespace pelorin::ui::chart;
+using namespace tests;
 
 namespace {
 
 // A backend's curve: through NaN now and then, and at its end something that is no exception.
-class ForeignCurve : public Subsampler
+class ForeignCurve : public pelorin::algo::Subsampler
 {
 public:
     explicit ForeignCurve(int answers)
@@ -107,7 +101,7 @@ PlotSnapshot snapshot(Dice& dice)
         const double step = dice.upTo(14)
                                 ? dice.oneOf({1.0, 0.25, 4.0, 0.1, dice.between(0.01, 2.0), -0.7})
                                 : dice.oneOf({NaN, Infinity, 1e300, 1e-320});
-        segments.push_back(tests::segment(samples(dice), offset, step, form(), form()));
+        segments.push_back(segment(samples(dice), offset, step, form(), form()));
         if (dice.upTo(5) == 0)
             segments.back().setSubsampler(boost::make_shared<ForeignCurve>(dice.upTo(30)));
     }
@@ -131,10 +125,9 @@ void expectSame(const std::vector<Points>& actual, const std::vector<Points>& ex
     ASSERT_EQ(actual.size(), expected.size());
     for (std::size_t i = 0; i < actual.size(); ++i) {
         ASSERT_EQ(actual[i].size(), expected[i].size());
-        for (std::size_t k = 0; k < actual[i].size(); ++k) {
-            ASSERT_TRUE(same(actual[i][k].first, expected[i][k].first));
-            ASSERT_TRUE(same(actual[i][k].second, expected[i][k].second));
-        }
+        for (std::size_t k = 0; k < actual[i].size(); ++k)
+            ASSERT_TRUE(same(actual[i][k].first, expected[i][k].first) &&
+                        same(actual[i][k].second, expected[i][k].second));
     }
 }
 
@@ -142,13 +135,11 @@ void expectSame(const std::vector<Points>& actual, const std::vector<Points>& ex
 
 TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
 {
-    int polylines = 0;
-    int symbols = 0;
+    int polylines = 0, symbols = 0;
     for (unsigned seed = 0; seed < 4000 && !HasFatalFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         Dice dice(seed);
-        const auto xAxis = axis(dice);
-        const auto yAxis = axis(dice);
+        const auto xAxis = axis(dice), yAxis = axis(dice);
         const double width = dice.upTo(19)
                                  ? dice.oneOf({0.125, 0.1, 0.3, 0.01, dice.between(0.02, 0.5)})
                                  : dice.oneOf({NaN, Infinity, 2.0});
@@ -157,10 +148,9 @@ TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
         SamplePlotAlgorithm plot;
         plot.setSnapshot(snapshot(dice));
         const auto actual = plot.createSegments(xAxis, yAxis, width, spacing);
-        const auto expected =
-            tests::plainSamplePlot(snapshot(same), *xAxis, *yAxis, width, spacing);
-        expectSame(tests::exact(actual.first), expected.first);
-        expectSame(tests::exact(actual.second), expected.second);
+        const auto expected = plainSamplePlot(snapshot(same), *xAxis, *yAxis, width, spacing);
+        expectSame(exact(actual.first), expected.first);
+        expectSame(exact(actual.second), expected.second);
         polylines += actual.first.size();
         symbols += actual.second.size();
     }
