@@ -9,13 +9,8 @@
 
 #include <cmath>
 
-using pelorin::ui::chart::Axis;
-using pelorin::ui::chart::FixedPositionLinearAxis;
-using pelorin::ui::chart::LinearAxis;
-using tests::Highest;
-using tests::Lowest;
-using tests::NaN;
-using tests::SignalLog;
+using namespace pelorin::ui::chart;
+using namespace tests;
 
 namespace {
 
@@ -26,10 +21,6 @@ class LinearGesturesTest : public testing::Test
 {
 protected:
     FixedPositionLinearAxis axis{2.0, 100.0, 0.5, false, 10, 5};
-};
-
-struct ForeignState : Axis::ScrollScaleState
-{
 };
 
 } // namespace
@@ -83,16 +74,12 @@ TEST_F(LinearGesturesTest, GesturesTellInOrderAndOnlyOfChanges)
     EXPECT_TRUE(log.take().endsWith(tail));
 }
 
-TEST_F(LinearGesturesTest, ScalingMovesTheGrippedValueAlong)
+TEST_F(LinearGesturesTest, ScalingMovesTheGrippedValueBoundByThePixelAndTheTopLimit)
 {
     LinearAxis fromStart;
-    const double gripped = fromStart.inverseTransform(Axis::Linear, 0.75);
     fromStart.scaleAxis(0.75, 0.25);
-    EXPECT_EQ(fromStart.transform(Axis::Linear, gripped), 0.5);
-}
+    EXPECT_EQ(fromStart.transform(Axis::Linear, 7.5), 0.5);
 
-TEST_F(LinearGesturesTest, ScalingIsBoundByThePixelAndTheTopLimit)
-{
     const auto base = axis.scrollScaleState();
     axis.scaleAxis(0.5, 0.5, base, Lowest, Highest, 0.125);
     EXPECT_EQ(axis.scale(), 8.0);
@@ -122,7 +109,6 @@ TEST_F(LinearGesturesTest, AGestureCountsFromItsBaseWhateverHasBecomeOfTheAxis)
     };
     const Row rows[] = {
         {0.1, Lowest, Highest, 0.1 * 2.0 * 10 + 100.0},
-        {0.1, Lowest, Highest, 0.1 * 2.0 * 10 + 100.0},
         {-9.0, 95.0, Highest, 0.5 * 2.0 * 10 + 95.0},
         {9.0, Lowest, 120.0, -0.5 * 2.0 * 10 + 120.0},
         {0.37, Lowest, Highest, 0.37 * 2.0 * 10 + 100.0},
@@ -137,6 +123,9 @@ TEST_F(LinearGesturesTest, AGestureCountsFromItsBaseWhateverHasBecomeOfTheAxis)
     axis.scaleAxis(0.3, 0.2999, base, Lowest, 50.0);
     EXPECT_EQ(axis.scale(), largest);
 
+    struct ForeignState : Axis::ScrollScaleState
+    {
+    };
     const double offset = axis.offset(); // A base of another kind counts as none.
     axis.scrollAxis(0.0, 0.1, boost::make_shared<ForeignState>());
     EXPECT_EQ(axis.offset(), -1.0 * 0.1 * largest * 8 + offset);

@@ -7,9 +7,7 @@
 
 #include <cmath>
 
-using pelorin::ui::chart::Axis;
-using pelorin::ui::chart::LinearAxis;
-using pelorin::ui::chart::LinearPlotAutoScaler;
+using namespace pelorin::ui::chart;
 using tests::NaN;
 
 TEST(LinearPlotAutoScalerTest, MovesDataThatLeaveTheBandAndRoundsTheScaleUp)
@@ -55,30 +53,20 @@ TEST(LinearPlotAutoScalerTest, MovesDataThatLeaveTheBandAndRoundsTheScaleUp)
     }
 }
 
-TEST(LinearPlotAutoScalerTest, AnUnknownScaleOrOffsetGoesBackAsItIs)
+TEST(LinearPlotAutoScalerTest, WhatIsUnknownGoesBackAsItIsAndNoBandFallsBackToTheFloor)
 {
+    const auto suggest = LinearPlotAutoScaler::suggest;
     for (const bool force : {false, true}) {
-        const auto unknownScale = LinearPlotAutoScaler::suggest(NaN, 7.0, 2.0, 3.0, 10, 0.9, 0.1,
-                                                                0.1, 1e-9, false, force);
-        EXPECT_TRUE(std::isnan(unknownScale.scale));
-        EXPECT_EQ(unknownScale.offset, 7.0);
-        const auto unknownOffset = LinearPlotAutoScaler::suggest(1.0, NaN, 2.0, 3.0, 10, 0.9, 0.1,
-                                                                 0.1, 1e-9, false, force);
-        EXPECT_EQ(unknownOffset.scale, 1.0);
-        EXPECT_TRUE(std::isnan(unknownOffset.offset));
+        const auto scale = suggest(NaN, 7.0, 2.0, 3.0, 10, 0.9, 0.1, 0.1, 1e-9, false, force);
+        EXPECT_TRUE(std::isnan(scale.scale) && scale.offset == 7.0);
+        const auto offset = suggest(1.0, NaN, 2.0, 3.0, 10, 0.9, 0.1, 0.1, 1e-9, false, force);
+        EXPECT_TRUE(offset.scale == 1.0 && std::isnan(offset.offset));
     }
-}
-
-TEST(LinearPlotAutoScalerTest, NoBandFallsBackToTheFloor)
-{
+    const auto floor = suggest(1.0, 0.0, 0.2, 0.21, 10, 0.9, 0.1, 0.1, NaN, false, true);
+    EXPECT_EQ(floor.scale, 1.0);
     // A quotient of zeros is not a number and so not greater than the floor.
-    const auto suggestion =
-        LinearPlotAutoScaler::suggest(0.0, 0.0, 0.5, 0.5, 10, 0.5, 0.5, 0.1, 1e-9, false, true);
-    EXPECT_EQ(suggestion.scale, std::ceil(1e-9 / std::pow(10.0, -9)) * std::pow(10.0, -9));
-
-    const auto unknown =
-        LinearPlotAutoScaler::suggest(1.0, 0.0, 0.2, 0.21, 10, 0.9, 0.1, 0.1, NaN, false, true);
-    EXPECT_EQ(unknown.scale, 1.0);
+    const auto none = suggest(0.0, 0.0, 0.5, 0.5, 10, 0.5, 0.5, 0.1, 1e-9, false, true);
+    EXPECT_EQ(none.scale, std::ceil(1e-9 / std::pow(10.0, -9)) * std::pow(10.0, -9));
 }
 
 TEST(LinearPlotAutoScalerTest, ApplyingASuggestionBringsTheDataIntoTheBand)
