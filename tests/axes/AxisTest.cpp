@@ -78,22 +78,19 @@ TEST(AxisTickTest, OnlyValidTicksAtTheSamePlaceAreEqual)
 
 TEST(AxisTickTest, MovedFromTickKeepsAllButItsList)
 {
-    Axis::Tick source(1.0, 0.5, 7.0, {2.0, 3.0}, true);
-    Axis::Tick target(std::move(source));
-    EXPECT_EQ(target.secondaryLogicalPositions(), QList<double>({2.0, 3.0}));
-
+    const QList<double> list{2.0, 3.0};
     const auto expectMovedFrom = [](const Axis::Tick& tick) {
         EXPECT_TRUE(tick.isValid() && tick.isInvisible());
-        EXPECT_EQ(tick.logicalPosition(), 1.0);
-        EXPECT_EQ(tick.axisPosition(), 0.5);
-        EXPECT_EQ(tick.rank(), 7.0);
+        EXPECT_THAT((std::vector<double>{tick.logicalPosition(), tick.axisPosition(), tick.rank()}),
+                    ElementsAre(1.0, 0.5, 7.0));
         EXPECT_TRUE(tick.secondaryLogicalPositions().isEmpty());
     };
+    Axis::Tick source(1.0, 0.5, 7.0, list, true), target(std::move(source));
+    EXPECT_EQ(target.secondaryLogicalPositions(), list);
     expectMovedFrom(source);
-
     Axis::Tick assigned(0.0, 0.0, 0.0, {9.0}, false);
     assigned = std::move(target);
-    EXPECT_EQ(assigned.secondaryLogicalPositions(), QList<double>({2.0, 3.0}));
+    EXPECT_EQ(assigned.secondaryLogicalPositions(), list);
     expectMovedFrom(target);
 }
 

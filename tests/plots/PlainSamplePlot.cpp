@@ -81,13 +81,11 @@ struct Walk
             polyline.emplace_back(centre, y);
             if (!column.empty() && !fuzzyEqual(y, *extremes.first))
                 polyline.emplace_back(centre, *extremes.first);
-            if (!column.empty() && !fuzzyEqual(*extremes.second, *extremes.first))
-                polyline.emplace_back(centre, *extremes.second);
         } else if (!column.empty()) {
             polyline.emplace_back(centre, *extremes.first);
-            if (!fuzzyEqual(*extremes.second, *extremes.first))
-                polyline.emplace_back(centre, *extremes.second);
         }
+        if (!column.empty() && !fuzzyEqual(*extremes.second, *extremes.first))
+            polyline.emplace_back(centre, *extremes.second);
     }
 
     long long align(const PlotSegment& segment)
