@@ -32,7 +32,8 @@ void run(QPaintDevice& device, double scale, const std::function<void(QPainter&)
     painter.end();
 }
 
-// A disk that gets full takes some of the bytes, and says why when it is to take the rest.
+// A disk that gets full takes some of the bytes, and says why when it is to take the rest. A buffer
+// would keep that to itself, so the file must have none.
 bool writeAll(QIODevice& file, const QByteArray& bytes)
 {
     qint64 written = 0;
@@ -77,7 +78,8 @@ void PictureFile::write(const Paint& paint) const
 {
     const QByteArray picture = bytes(paint);
     QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly) || !writeAll(file, picture) || !file.commit())
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) || !writeAll(file, picture) ||
+        !file.commit())
         throw WorkError(
             QStringLiteral("%1: cannot be written: %2").arg(m_path, file.errorString()));
 }

@@ -11,9 +11,9 @@ namespace hosts::charting {
 
 namespace {
 
-Chart chartOf(const QVector<QVector<QPointF>>& polylines)
+Chart chartOf(const QVector<QVector<QPointF>>& polylines, int divisions = 4)
 {
-    const AxisView axis(AxisDivision::of(0.0, 1.0, 4, TickPlaces::Moving), QString());
+    const AxisView axis(AxisDivision::of(0.0, 1.0, divisions, TickPlaces::Moving), QString());
     ChartTexts texts;
     texts.xMarks = axis.marks();
     texts.yMarks = axis.marks();
@@ -84,6 +84,14 @@ TEST(ChartPainterTest, GridLinesCoverWholePixelsAtEveryScale)
         const int thickness = std::max(1, int(scale));
         EXPECT_EQ(lines, (1 + 2 * 4) * thickness) << scale;
     }
+}
+
+TEST(ChartPainterTest, MinorLinesThatWouldRunTogetherAreLeftOut)
+{
+    const Picture picture(chartOf({}, 50), 1.0);
+    const QPoint centre = picture.layout.plot.center().toPoint();
+    for (int i = 0; i < 20; ++i)
+        EXPECT_NE(picture.image.pixelColor(centre + QPoint(i, i / 2)), picture.look.minorGrid) << i;
 }
 
 TEST(ChartPainterTest, CurvesCanBeToldApartFromEachOtherAndTheBackground)

@@ -38,9 +38,9 @@ public:
 
     /// Runs the program to its end.
     /// @return its exit code
-    int run(const QStringList& arguments)
+    int run(const QStringList& arguments, const QString& program = QStringLiteral(KESTRANE_CHART))
     {
-        m_process.start(QStringLiteral(KESTRANE_CHART), arguments);
+        m_process.start(program, arguments);
         m_process.waitForFinished(60000);
         m_output = QString::fromUtf8(m_process.readAllStandardOutput());
         m_errors = QString::fromUtf8(m_process.readAllStandardError());

@@ -98,6 +98,16 @@ TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
         expectRefused(c);
 }
 
+TEST_F(KestraneChartErrorsTest, ADiskThatGetsFullKeepsTheOldPicture)
+{
+    const QString limited = "ulimit -f 8; trap '' XFSZ; exec " KESTRANE_CHART " in.csv -o out.png";
+    EXPECT_EQ(chart.run({"-c", limited}, "/bin/sh"), 1);
+    EXPECT_TRUE(chart.errors().contains("out.png: cannot be written: "))
+        << chart.errors().toStdString();
+    EXPECT_EQ(chart.read("out.png"), QByteArray("before"));
+    EXPECT_EQ(QDir(chart.path(".")).entryList(QDir::AllEntries | QDir::System), files);
+}
+
 } // namespace
 
 } // namespace hosts::charting

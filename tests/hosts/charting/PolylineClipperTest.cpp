@@ -38,11 +38,12 @@ TEST(PolylineClipperTest, NoPieceLeavesTheBounds)
     points += QVector<QPointF>{{5, -1e308}, {5, 1e308}};
     const Lines pieces = clipPolyline(points, bounds);
     EXPECT_GT(pieces.size(), 500);
-    const QRectF widened = bounds.adjusted(-1e-9, -1e-9, 1e-9, 1e-9);
+    const auto isWithin = [](double c) { return c >= -1e-9 && c <= 10.0 + 1e-9; }; // No NaN is.
     for (const QVector<QPointF>& piece : pieces) {
         ASSERT_GE(piece.size(), 2);
         for (const QPointF& point : piece)
-            ASSERT_TRUE(widened.contains(point)) << point.x() << ' ' << point.y();
+            ASSERT_TRUE(isWithin(point.x()) && isWithin(point.y()))
+                << point.x() << ' ' << point.y();
     }
 }
 
