@@ -1,4 +1,5 @@
 #include "kestrane/backend/InvalidIndexException.h"
+#include "tests/support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
