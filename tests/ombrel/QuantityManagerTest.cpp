@@ -13,17 +13,17 @@ TEST(QuantityManagerTest, LearnsAndReplacesWhileOthersAsk)
     const int known = manager.names().size();
     const Quantity before = manager.quantity("voltage");
     const auto teach = [&manager](const QString& name) {
-        for (int k = 0; k < 200; ++k) {
+        for (int k = 0; k < 1000; ++k) {
             const Quantity channel(name, {{"V", true, 1.0, double(k), ""}});
-            EXPECT_NE(manager.quantity(name), channel);
             manager.add(channel);
             EXPECT_EQ(manager.quantity(name), channel);
         }
     };
-    std::thread other(teach, "channel");
-    teach("voltage");
-    other.join();
+    std::thread threads[] = {std::thread(teach, "1"), std::thread(teach, "2"),
+                             std::thread(teach, "3"), std::thread(teach, "voltage")};
+    for (std::thread& thread : threads)
+        thread.join();
 
-    EXPECT_EQ(manager.names().size(), known + 1);
+    EXPECT_EQ(manager.names().size(), known + 3);
     EXPECT_EQ(before.units().value(0).offset, 0.0);
 }
