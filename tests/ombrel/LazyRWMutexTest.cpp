@@ -118,7 +118,7 @@ TEST_F(LazyRWMutexTest, AnExceptionIsReportedAndStopsNothing)
     static QStringList warnings;
     const auto previous = qInstallMessageHandler(
         [](QtMsgType, const QMessageLogContext&, const QString& text) { warnings << text; });
-    m_atAfter = [] { throw 5; };
+    m_atAfter = [this] { throw m_log; };
     read([this] {
         push([] { throw std::runtime_error("no room"); });
         push(note("2"));
