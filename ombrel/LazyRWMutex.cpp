@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <exception>
 #include <iterator>
-#include <utility>
 
 namespace pelorin {
 namespace utilities {
@@ -71,8 +70,9 @@ void LazyRWMutex::unlockForRead()
 
 void LazyRWMutex::pushWriterAction(const boost::function<void()>& action)
 {
+    Actions pushed(1, action); // A copy is foreign code: made, and free to throw, before the lock.
     std::unique_lock<std::mutex> guard(m_mutex);
-    m_actions.push_back(action);
+    m_actions.splice(m_actions.end(), pushed);
     ++m_pushedCount;
     carryOutBatches(guard);
 }
@@ -104,11 +104,11 @@ void LazyRWMutex::carryOutBatch(std::unique_lock<std::mutex>& guard)
     runReportingExceptions(m_before);
     guard.lock();
     while (m_doneCount < batchEnd && m_readers.empty()) {
-        boost::function<void()> action = std::move(m_actions.front());
-        m_actions.pop_front();
+        Actions next; // Spliced, since moving a boost::function can copy what it holds.
+        next.splice(next.end(), m_actions, m_actions.begin());
         guard.unlock();
-        runReportingExceptions(action);
-        action.clear();
+        runReportingExceptions(next.front());
+        next.clear();
         guard.lock();
         ++m_doneCount;
     }

@@ -7,7 +7,6 @@
 
 #include <condition_variable>
 #include <cstdint>
-#include <deque>
 #include <list>
 #include <mutex>
 #include <thread>
@@ -80,6 +79,7 @@ private:
         int depth;
     };
     using Readers = std::list<Reader>;
+    using Actions = std::list<boost::function<void()>>;
 
     Readers::iterator findReader();
     void carryOutBatches(std::unique_lock<std::mutex>& guard);
@@ -91,7 +91,7 @@ private:
 
     std::mutex m_mutex; // guards all below; never held while foreign code runs
     std::condition_variable m_admitted;
-    std::deque<boost::function<void()>> m_actions;
+    Actions m_actions;
     std::uint64_t m_pushedCount = 0;
     std::uint64_t m_doneCount = 0;
     Readers m_readers;
