@@ -24,7 +24,8 @@ namespace utilities {
 /// Laws:
 ///  1. Actions run one at a time, in the order in which they were pushed, and neither they nor
 ///     before() and after() run beside a reader of another thread or beside each other.
-///  2. pushWriterAction() never waits for a reader or for an action of another thread.
+///  2. pushWriterAction() never waits for a reader or for an action of another thread. A thread
+///     that carries out actions goes on while others push and nobody waits to read.
 ///  3. A thread that holds the lock can take it again at any time, whatever is queued.
 ///  4. When lockForRead() returns to a thread that did not hold the lock, the actions pushed
 ///     before that call have been carried out, and after() has run behind them.
@@ -60,7 +61,8 @@ public:
     /// Takes the lock as one of any number of readers. O(n) for n threads that read.
     void lockForRead();
 
-    /// Gives up one hold of this thread, and carries out what is queued if it was the last of all.
+    /// Gives up one hold of this thread, which must have one, and carries out what is queued if it
+    /// was the last of all.
     void unlockForRead();
 
     /// Hands over an action. If nobody reads and no thread carries out actions, this one does so

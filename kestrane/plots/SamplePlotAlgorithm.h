@@ -42,16 +42,16 @@ public:
     /// Replaces the data. Splines that its segments hold already are used as they are.
     void setSnapshot(backend::PlotSnapshot snapshot);
 
-    /// What there is to draw of the data, in axis space: x on @p xAxis, y on @p yAxis. x can lie
-    /// outside 0.0 to 1.0 by about a column at both ends (symbols on the left by up to a sample),
-    /// y anywhere.
+    /// What there is to draw of the data, in axis space: x on @p xAxis, y on @p yAxis. On an axis
+    /// and data that ascend, points of polylines lie from 0.0 to less than 1.0 and two and a half
+    /// columns, symbols up to a sample step outside the axis on either side; y lies anywhere.
     ///
     /// Laws:
     ///  1. A polyline has at most three points a column, all at the column's centre.
     ///  2. The same snapshot, axes and arguments give the same result; splines are built once.
     ///
-    /// O(visible samples + columns) a segment, and once O(samples) for its spline. Samples left and
-    /// right of the visible range are not visited.
+    /// O(visible samples + columns) a segment, and once O(samples) for its spline. Of the samples
+    /// left and right of the visible range only the nearest ones are visited.
     ///
     /// @param columnWidth width of a column in x axis space, 1.0 / pixels as a rule. Zero, a
     ///        negative one and one so small that 1.0 + columnWidth is 1.0 give nothing.

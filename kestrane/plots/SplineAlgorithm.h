@@ -22,11 +22,12 @@ namespace algo {
 /// every sample all the same; near the first ones it is not quite the exact natural spline.
 ///
 /// Laws:
-///  1. At a whole index below count - 1 the value is that sample, exactly.
+///  1. At a whole index below count - 1 the value is that sample, exactly, where the samples are
+///     finite and neither their doubles nor their differences overflow.
 ///  2. The value depends on the index only, not on what has been asked before.
 ///
-/// Three or more samples of which one isn't finite, or whose second differences overflow, give NaN
-/// everywhere.
+/// Three or more samples of which one isn't finite, or whose doubles or second differences
+/// overflow, give NaN everywhere.
 ///
 /// Set-up is O(count) in time and memory (one double per sample); a query is O(1), cheapest within
 /// the interval of the last one. Samples are shared, not copied; at most INT_MAX of them.

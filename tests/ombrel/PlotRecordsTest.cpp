@@ -19,10 +19,40 @@ TEST(PlotRecordsTest, SamplesLiveAsLongAsAnybodyReadsThem)
         snapshot = PlotSnapshot();
         EXPECT_TRUE(snapshot.empty());
         EXPECT_EQ(copy.segments.at(0).count, 3);
+        EXPECT_FALSE(copy.empty());
         EXPECT_TRUE(copy.segments[0].xInfo == MetaInfo(5.0, 0.5));
+        EXPECT_FALSE(copy.segments[0].xInfo == MetaInfo(5.0, 0.25));
+        EXPECT_FALSE(copy.segments[0].xInfo == MetaInfo(4.0, 0.5));
+        EXPECT_FALSE(copy.segments[0].xInfo ==
+                     MetaInfo(5.0, 0.5, pelorin::ui::chart::Axis::Logarithmic));
         last = copy.segments[0].end - 1;
     }
     EXPECT_EQ(*last, 3.0);
+}
+
+TEST(PlotRecordsTest, ACopyOfASegmentTakesOverTheSubsamplerIntoASlotOfItsOwn)
+{
+    struct Curve : pelorin::algo::Subsampler
+    {
+        double operator[](const double&) override { return 0.0; }
+        boost::shared_ptr<Subsampler> tail(long long) override { return {}; }
+    };
+    const auto one = boost::make_shared<Curve>(), other = boost::make_shared<Curve>();
+    const PlotSegment source(boost::make_shared<SampleVector>(SampleVector{1.0}));
+    EXPECT_FALSE(source.subsampler());
+    EXPECT_EQ(&source.setSubsampler(one), &source);
+    PlotSegment assigned(boost::make_shared<SampleVector>());
+    assigned = source;
+    for (const PlotSegment& copy : {PlotSegment(source), assigned}) {
+        EXPECT_EQ(copy.subsampler(), one);
+        EXPECT_EQ(copy.count, 1);
+        copy.setSubsampler(other);
+        EXPECT_EQ(source.subsampler(), one);
+    }
+
+    PlotSnapshot full({PlotSegment(boost::make_shared<SampleVector>())});
+    const PlotSnapshot taken(std::move(full));
+    EXPECT_TRUE(full.empty() && !taken.empty()) << "a segment without samples is one, too";
 }
 
 TEST(PlotRecordsTest, AnAccumulatorForgetsAllAtReset)

@@ -119,11 +119,17 @@ TEST(SamplePlotAlgorithmTest, SamplesLeftOfTheAxisAreSkippedAndThoseRightOfItNot
 
 TEST(SamplePlotAlgorithmTest, ASecondCallGivesTheSameAndTheSegmentsStayAsTheyAre)
 {
-    const PlotSegment own = segment({0.0, 1.0, 0.0, 0.5, 0.25});
+    const auto samples = boost::make_shared<pelorin::backend::SampleVector>(
+        pelorin::backend::SampleVector{0.0, 1.0, 0.0, 0.5, 0.25});
+    const PlotSegment own(samples);
     SamplePlotAlgorithm algorithm;
     algorithm.setSnapshot(snapshot({own}));
+    const long withoutSpline = samples.use_count();
     const Plot first = plotOf(algorithm, linearAxis(8.0), 0.03125, 1.0);
+    const long withSpline = samples.use_count();
+    EXPECT_GT(withSpline, withoutSpline) << "the spline, which reads the samples, is kept";
     EXPECT_EQ(first.polylines, plotOf(algorithm, linearAxis(8.0), 0.03125, 1.0).polylines);
+    EXPECT_EQ(samples.use_count(), withSpline);
     EXPECT_FALSE(own.subsampler()) << "the algorithm fills the slots of its own copy only";
     algorithm.setSnapshot(PlotSnapshot());
     EXPECT_TRUE(plotOf(algorithm, linearAxis(8.0), 0.125, 1.0).polylines.empty());
@@ -150,7 +156,7 @@ TEST(SamplePlotAlgorithmTest, NewDataMayComeDuringARequest)
 TEST(SamplePlotAlgorithmTest, ArgumentsThatLeaveNothingToDraw)
 {
     const PlotSnapshot data = snapshot({segment({0.1, 0.2, 0.3})});
-    for (const double width : {0.0, -0.0, -0.125, -Infinity, 1e-17, 1e-300}) {
+    for (const double width : {0.0, -0.0, -0.125, -Infinity, 1e-16, 1e-17, 1e-300}) {
         EXPECT_TRUE(plotOf(data, width).polylines.empty()) << width;
         EXPECT_TRUE(plotOf(data, width).symbols.empty()) << width;
     }

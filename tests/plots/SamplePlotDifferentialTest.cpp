@@ -121,7 +121,9 @@ QSharedPointer<const Axis> axis(Dice& dice)
 
 void expectSame(const std::vector<Points>& actual, const std::vector<Points>& expected)
 {
-    const auto same = [](double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)); };
+    const auto same = [](double a, double b) { // Which zero an extreme keeps is left open.
+        return a == b || (std::isnan(a) && std::isnan(b));
+    };
     ASSERT_EQ(actual.size(), expected.size());
     for (std::size_t i = 0; i < actual.size(); ++i) {
         ASSERT_EQ(actual[i].size(), expected[i].size());

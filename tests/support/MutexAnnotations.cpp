@@ -28,14 +28,14 @@ Operation qtsOwn(const char* symbol)
 
 } // namespace
 
-void QMutex::lock()
+void QMutex::lock() noexcept
 {
     static const Operation own = qtsOwn("_ZN6QMutex4lockEv");
     own(this);
     __tsan_acquire(this);
 }
 
-void QMutex::unlock()
+void QMutex::unlock() noexcept
 {
     static const Operation own = qtsOwn("_ZN6QMutex6unlockEv");
     __tsan_release(this);

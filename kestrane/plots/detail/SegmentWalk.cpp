@@ -32,9 +32,11 @@ long long wholeSamples(double quotient)
 // of the axis in plain values, whatever form the samples are written in.
 bool showsSymbols(const Axis& xAxis, const Thinning& thinning, double sampleStep)
 {
-    const double spacing = thinning.columnWidth * thinning.symbolSpacing;
-    return sampleStep > xAxis.inverseTransform(Axis::Linear, spacing) -
-                            xAxis.inverseTransform(Axis::Linear, 0.0);
+    // Two statements, so that an axis is asked in one order whatever the compiler.
+    const double end =
+        xAxis.inverseTransform(Axis::Linear, thinning.columnWidth * thinning.symbolSpacing);
+    const double start = xAxis.inverseTransform(Axis::Linear, 0.0);
+    return sampleStep > end - start;
 }
 
 } // namespace
