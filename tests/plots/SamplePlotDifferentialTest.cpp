@@ -102,7 +102,8 @@ PlotSnapshot snapshot(Dice& dice)
                                 ? dice.oneOf({1.0, 0.25, 4.0, 0.1, dice.between(0.01, 2.0), -0.7})
                                 : dice.oneOf({NaN, Infinity, 1e300, 1e-320});
         segments.push_back(segment(samples(dice), offset, step, form(), form()));
-        if (dice.upTo(5) == 0)
+        // One without samples shows at which column the segment before it has stopped.
+        if (segments.back().count == 0 || dice.upTo(5) == 0)
             segments.back().setSubsampler(boost::make_shared<ForeignCurve>(dice.upTo(30)));
     }
     return PlotSnapshot(segments);
