@@ -1,7 +1,8 @@
 #include "kestrane/axes/Axis.h"
 
-#include <algorithm>
-#include <cmath>
+#include "kestrane/axes/detail/RankOrder.h"
+
+#include <QPointer>
 
 namespace pelorin {
 namespace ui {
@@ -32,13 +33,6 @@ void rankByBisection(QVector<Axis::Tick>& ticks, int first, int last, double wei
             return;
         first = mid;
     }
-}
-
-// A rank of NaN, which only an axis from outside can bring, sorts last: without that the order
-// would not be one.
-bool ranksHigher(const Axis::Tick& a, const Axis::Tick& b)
-{
-    return a.rank() > b.rank() || (std::isnan(b.rank()) && !std::isnan(a.rank()));
 }
 
 } // namespace
@@ -81,15 +75,17 @@ void Axis::emitParametersChanged()
 
 void Axis::emitMinValChanged(bool withParamChange)
 {
+    const QPointer<Axis> guard(this);
     Q_EMIT minValueChanged(minValue());
-    if (withParamChange)
+    if (withParamChange && guard)
         Q_EMIT parametersChanged(this);
 }
 
 void Axis::emitMaxValChanged(bool withParamChange)
 {
+    const QPointer<Axis> guard(this);
     Q_EMIT maxValueChanged(maxValue());
-    if (withParamChange)
+    if (withParamChange && guard)
         Q_EMIT parametersChanged(this);
 }
 
@@ -104,7 +100,7 @@ void Axis::updateRanking(QVector<Tick>& ticks, bool isMajor)
         for (Tick& tick : ticks)
             tick.setRank(tick.rank() + majorBonus);
     }
-    std::sort(ticks.begin(), ticks.end(), ranksHigher);
+    detail::sortByRank(ticks);
 }
 
 } // namespace chart

@@ -1,0 +1,281 @@
+#include "kestrane/axes/AggregateAxis.h"
+
+#include "kestrane/axes/detail/InTurn.h"
+#include "kestrane/axes/detail/RankOrder.h"
+
+#include <boost/make_shared.hpp>
+
+#include <algorithm>
+#include <limits>
+#include <memory>
+
+namespace pelorin {
+namespace ui {
+namespace chart {
+
+namespace {
+
+constexpr double nan = std::numeric_limits<double>::quiet_NaN();
+
+// The last node with a key at or below x, else the first one; end() if there is none at all.
+template<typename Map>
+auto lookup(Map& map, double x)
+{
+    auto node = std::isnan(x) ? map.end() : map.upper_bound(x);
+    if (node != map.begin())
+        --node;
+    return node;
+}
+
+template<typename Map, typename Predicate>
+void eraseIf(Map& map, const Predicate& matches)
+{
+    for (auto node = map.begin(); node != map.end();)
+        node = matches(*node) ? map.erase(node) : std::next(node);
+}
+
+} // namespace
+
+AggregateAxis::SubAxisEntry::~SubAxisEntry()
+{
+    for (const QMetaObject::Connection& connection : connections)
+        QObject::disconnect(connection);
+}
+
+double AggregateAxis::SubAxisEntry::toWhole(double position) const
+{
+    return (to - from) * position + from;
+}
+
+struct AggregateAxis::AggregateScrollScaleState : Axis::ScrollScaleState
+{
+    Map<boost::shared_ptr<const ScrollScaleState>> subStates;
+};
+
+AggregateAxis::AggregateAxis(QObject* parent)
+    : Axis(parent)
+{}
+
+AggregateAxis::~AggregateAxis() = default;
+
+AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
+{
+    if (!axis)
+        return *this;
+    SubAxisEntry& entry = m_subAxes[from];
+    entry.axis = axis;
+    entry.from = from;
+    entry.to = to;
+    entry.connections.clear(); // They stay in force: nothing but their handles is gone.
+    m_reverseMap[axis->minValue()] = &entry;
+    connectTo(entry);
+    detail::inTurn(
+        this, [&] { emitLimitsAndParameters(); }, [&] { Q_EMIT ticksUpdated(); });
+    return *this;
+}
+
+void AggregateAxis::connectTo(SubAxisEntry& entry)
+{
+    Axis* const axis = entry.axis;
+    entry.connections = {
+        connect(axis, &Axis::minValueChanged, this, [this] { Q_EMIT minValueChanged(minValue()); }),
+        connect(axis, &Axis::maxValueChanged, this, [this] { Q_EMIT maxValueChanged(maxValue()); }),
+        connect(axis, &Axis::parametersChanged, this, &AggregateAxis::updateReverseMap),
+        connect(axis, &Axis::ticksUpdated, this, &Axis::ticksUpdated),
+        connect(axis, &Axis::axisChangedViaScalingOrScrolling, this,
+                &Axis::axisChangedViaScalingOrScrolling)};
+}
+
+AggregateAxis& AggregateAxis::removeAxis(Axis* axis)
+{
+    eraseIf(m_reverseMap, [&](const auto& node) { return node.second->axis == axis; });
+    eraseIf(m_subAxes, [&](const auto& node) { return node.second.axis == axis; });
+    emitLimitsAndParameters();
+    return *this;
+}
+
+AggregateAxis& AggregateAxis::removeAllAxes()
+{
+    m_reverseMap.clear();
+    m_subAxes.clear();
+    emitLimitsAndParameters();
+    return *this;
+}
+
+void AggregateAxis::emitLimitsAndParameters()
+{
+    detail::inTurn(
+        this, [&] { emitMinValChanged(false); }, [&] { emitMaxValChanged(true); });
+}
+
+double AggregateAxis::minValue() const
+{
+    if (m_subAxes.empty())
+        return nan;
+    const Axis* axis = m_subAxes.begin()->second.axis;
+    return axis ? axis->minValue() : nan;
+}
+
+double AggregateAxis::maxValue() const
+{
+    if (m_subAxes.empty())
+        return nan;
+    const Axis* axis = m_subAxes.rbegin()->second.axis;
+    return axis ? axis->maxValue() : nan;
+}
+
+QVector<Axis::Tick> AggregateAxis::majorTicks()
+{
+    return handleTicks(true);
+}
+
+QVector<Axis::Tick> AggregateAxis::minorTicks()
+{
+    return handleTicks(false);
+}
+
+QVector<Axis::Tick> AggregateAxis::handleTicks(bool major) const
+{
+    QVector<Tick> merged;
+    for (const auto& [key, entry] : m_subAxes) {
+        if (!entry.axis)
+            continue;
+        const QVector<Tick> ticks = major ? entry.axis->majorTicks() : entry.axis->minorTicks();
+        for (const Tick& tick : ticks) {
+            if (tick.isValid() && tick.axisPosition() >= 0.0 && 1.0 >= tick.axisPosition())
+                merged.append(Tick(tick.logicalPosition(), entry.toWhole(tick.axisPosition()),
+                                   tick.rank(), tick.secondaryLogicalPositions(),
+                                   tick.isInvisible()));
+        }
+    }
+    detail::sortByRank(merged);
+    return merged;
+}
+
+double AggregateAxis::transform(ScaleMode mode, double value) const
+{
+    if (mode == Logarithmic)
+        value = std::pow(10.0, value);
+    const auto node = lookup(m_reverseMap, value);
+    if (node == m_reverseMap.end() || !node->second->axis)
+        return nan;
+    const SubAxisEntry& entry = *node->second;
+    return entry.toWhole(entry.axis->transform(Linear, value));
+}
+
+double AggregateAxis::inverseTransform(ScaleMode mode, double position) const
+{
+    const auto node = lookup(m_subAxes, position);
+    if (node == m_subAxes.end() || !node->second.axis)
+        return nan;
+    const SubAxisEntry& entry = node->second;
+    return entry.axis->inverseTransform(mode, (position - entry.from) / (entry.to - entry.from));
+}
+
+Axis::ScaleMode AggregateAxis::scaleMode() const
+{
+    const Axis* axis = m_subAxes.empty() ? nullptr : m_subAxes.begin()->second.axis.data();
+    return axis ? axis->scaleMode() : Linear;
+}
+
+double AggregateAxis::smallestTickDistance(bool major) const
+{
+    if (m_subAxes.empty())
+        return 0.0;
+    const SubAxisEntry& entry = m_subAxes.begin()->second;
+    return entry.axis ? (entry.to - entry.from) * entry.axis->smallestTickDistance(major) : 0.0;
+}
+
+double AggregateAxis::anchor() const
+{
+    return m_anchor;
+}
+
+boost::shared_ptr<const Axis::ScrollScaleState> AggregateAxis::scrollScaleState() const
+{
+    const auto state = boost::make_shared<AggregateScrollScaleState>();
+    for (const auto& [key, entry] : m_subAxes)
+        state->subStates[key] = entry.axis ? entry.axis->scrollScaleState() : nullptr;
+    return state;
+}
+
+AggregateAxis* AggregateAxis::clone() const
+{
+    auto copy = std::make_unique<AggregateAxis>();
+    for (const auto& [key, entry] : m_subAxes) {
+        if (!entry.axis)
+            continue;
+        Axis* const axis = entry.axis->clone();
+        axis->setParent(copy.get());
+        copy->addAxis(axis, entry.from, entry.to);
+    }
+    return copy.release();
+}
+
+bool AggregateAxis::operator==(const Axis& other) const
+{
+    const auto* aggregate = dynamic_cast<const AggregateAxis*>(&other);
+    const auto isSame = [](const auto& a, const auto& b) {
+        return a.second.axis == b.second.axis && a.second.from == b.second.from &&
+               a.second.to == b.second.to;
+    };
+    return aggregate && std::equal(m_subAxes.begin(), m_subAxes.end(), aggregate->m_subAxes.begin(),
+                                   aggregate->m_subAxes.end(), isSame);
+}
+
+void AggregateAxis::scrollAxis(double at, double by,
+                               const boost::shared_ptr<const ScrollScaleState>& base,
+                               double bottomLimit, double topLimit, double pixelSize)
+{
+    grip(&Axis::scrollAxis, at, by, base, bottomLimit, topLimit, pixelSize);
+}
+
+void AggregateAxis::scaleAxis(double at, double by,
+                              const boost::shared_ptr<const ScrollScaleState>& base,
+                              double bottomLimit, double topLimit, double pixelSize)
+{
+    grip(&Axis::scaleAxis, at, by, base, bottomLimit, topLimit, pixelSize);
+}
+
+void AggregateAxis::grip(Gesture gesture, double at, double by,
+                         const boost::shared_ptr<const ScrollScaleState>& base, double bottomLimit,
+                         double topLimit, double pixelSize)
+{
+    const auto node = lookup(m_subAxes, at);
+    if (node == m_subAxes.end())
+        return;
+    const SubAxisEntry& entry = node->second;
+    if (!(entry.axis && at >= entry.from && entry.to > at))
+        return;
+
+    boost::shared_ptr<const ScrollScaleState> subState;
+    if (const auto* state = dynamic_cast<const AggregateScrollScaleState*>(base.get())) {
+        const auto found = lookup(state->subStates, at);
+        if (found != state->subStates.end())
+            subState = found->second;
+    }
+    const double span = entry.to - entry.from;
+    (entry.axis->*gesture)((at - entry.from) / span, by / span, subState, bottomLimit, topLimit,
+                           pixelSize);
+}
+
+void AggregateAxis::setAnchor(double anchor)
+{
+    m_anchor = anchor;
+}
+
+void AggregateAxis::updateReverseMap(Axis* axis)
+{
+    const auto node = std::find_if(m_reverseMap.begin(), m_reverseMap.end(),
+                                   [&](const auto& one) { return one.second->axis == axis; });
+    if (node != m_reverseMap.end()) {
+        SubAxisEntry* const entry = node->second;
+        m_reverseMap.erase(node);
+        m_reverseMap[axis->minValue()] = entry;
+    }
+    emitParametersChanged();
+}
+
+} // namespace chart
+} // namespace ui
+} // namespace pelorin
