@@ -1,8 +1,7 @@
 #include "kestrane/axes/Axis.h"
 
+#include "kestrane/axes/detail/InTurn.h"
 #include "kestrane/axes/detail/RankOrder.h"
-
-#include <QPointer>
 
 namespace pelorin {
 namespace ui {
@@ -75,18 +74,22 @@ void Axis::emitParametersChanged()
 
 void Axis::emitMinValChanged(bool withParamChange)
 {
-    const QPointer<Axis> guard(this);
-    Q_EMIT minValueChanged(minValue());
-    if (withParamChange && guard)
-        Q_EMIT parametersChanged(this);
+    detail::inTurn(
+        this, [&] { Q_EMIT minValueChanged(minValue()); },
+        [&] {
+            if (withParamChange)
+                Q_EMIT parametersChanged(this);
+        });
 }
 
 void Axis::emitMaxValChanged(bool withParamChange)
 {
-    const QPointer<Axis> guard(this);
-    Q_EMIT maxValueChanged(maxValue());
-    if (withParamChange && guard)
-        Q_EMIT parametersChanged(this);
+    detail::inTurn(
+        this, [&] { Q_EMIT maxValueChanged(maxValue()); },
+        [&] {
+            if (withParamChange)
+                Q_EMIT parametersChanged(this);
+        });
 }
 
 void Axis::updateRanking(QVector<Tick>& ticks, bool isMajor)

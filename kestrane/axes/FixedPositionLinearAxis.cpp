@@ -1,5 +1,7 @@
 #include "kestrane/axes/FixedPositionLinearAxis.h"
 
+#include "kestrane/axes/detail/InTurn.h"
+
 #include <boost/make_shared.hpp>
 
 #include <cmath>
@@ -168,8 +170,9 @@ void FixedPositionLinearAxis::setNumMajorDivisions(int numDivisions)
     if (numDivisions == m_numMajorDivisions)
         return;
     m_numMajorDivisions = numDivisions;
-    Q_EMIT numMajorDivisionsChanged(numDivisions);
-    updateInternalValues();
+    detail::inTurn(
+        this, [&] { Q_EMIT numMajorDivisionsChanged(numDivisions); },
+        [&] { updateInternalValues(); });
 }
 
 void FixedPositionLinearAxis::setNumMinorDivisions(int numDivisions)
@@ -177,8 +180,9 @@ void FixedPositionLinearAxis::setNumMinorDivisions(int numDivisions)
     if (numDivisions == m_numMinorDivisions)
         return;
     m_numMinorDivisions = numDivisions;
-    Q_EMIT numMinorDivisionsChanged(numDivisions);
-    updateInternalValues();
+    detail::inTurn(
+        this, [&] { Q_EMIT numMinorDivisionsChanged(numDivisions); },
+        [&] { updateInternalValues(); });
 }
 
 void FixedPositionLinearAxis::setOffset(double offset)
@@ -186,8 +190,8 @@ void FixedPositionLinearAxis::setOffset(double offset)
     if (ignoredBySetter(offset, m_offset))
         return;
     m_offset = offset;
-    Q_EMIT offsetChanged(offset);
-    updateInternalValues();
+    detail::inTurn(
+        this, [&] { Q_EMIT offsetChanged(offset); }, [&] { updateInternalValues(); });
 }
 
 void FixedPositionLinearAxis::setScale(double scale)
@@ -195,8 +199,8 @@ void FixedPositionLinearAxis::setScale(double scale)
     if (ignoredBySetter(scale, m_scale))
         return;
     m_scale = scale;
-    Q_EMIT scaleChanged(scale);
-    updateInternalValues();
+    detail::inTurn(
+        this, [&] { Q_EMIT scaleChanged(scale); }, [&] { updateInternalValues(); });
 }
 
 void FixedPositionLinearAxis::setOffsetAndScale(double offset, double scale)
@@ -205,11 +209,15 @@ void FixedPositionLinearAxis::setOffsetAndScale(double offset, double scale)
     const bool scaleDiffers = differs(scale, m_scale);
     m_offset = offset;
     m_scale = scale;
-    if (offsetDiffers)
-        Q_EMIT offsetChanged(offset);
-    if (scaleDiffers)
-        Q_EMIT scaleChanged(scale);
-    updateInternalValues();
+    const auto tellOffset = [&] {
+        if (offsetDiffers)
+            Q_EMIT offsetChanged(offset);
+    };
+    const auto tellScale = [&] {
+        if (scaleDiffers)
+            Q_EMIT scaleChanged(scale);
+    };
+    detail::inTurn(this, tellOffset, tellScale, [&] { updateInternalValues(); });
 }
 
 void FixedPositionLinearAxis::setAnchor(double anchor)
@@ -217,8 +225,8 @@ void FixedPositionLinearAxis::setAnchor(double anchor)
     if (ignoredBySetter(anchor, m_anchor))
         return;
     m_anchor = anchor;
-    Q_EMIT anchorChanged(anchor);
-    updateInternalValues();
+    detail::inTurn(
+        this, [&] { Q_EMIT anchorChanged(anchor); }, [&] { updateInternalValues(); });
 }
 
 void FixedPositionLinearAxis::setOffsetIsAdded(bool offsetIsAdded)
@@ -226,8 +234,8 @@ void FixedPositionLinearAxis::setOffsetIsAdded(bool offsetIsAdded)
     if (offsetIsAdded == m_offsetIsAdded)
         return;
     m_offsetIsAdded = offsetIsAdded;
-    Q_EMIT offsetIsAddedChanged(offsetIsAdded);
-    updateInternalValues();
+    detail::inTurn(
+        this, [&] { Q_EMIT offsetIsAddedChanged(offsetIsAdded); }, [&] { updateInternalValues(); });
 }
 
 // The bounds below are written as "not greater than" since NaN has to take a bound's place too.
@@ -250,9 +258,9 @@ void FixedPositionLinearAxis::scrollAxis(double /*at*/, double by,
     if (candidate == m_offset)
         return;
     m_offset = candidate;
-    Q_EMIT offsetChanged(candidate);
-    updateInternalValues();
-    Q_EMIT axisChangedViaScalingOrScrolling();
+    detail::inTurn(
+        this, [&] { Q_EMIT offsetChanged(candidate); }, [&] { updateInternalValues(); },
+        [&] { Q_EMIT axisChangedViaScalingOrScrolling(); });
 }
 
 void FixedPositionLinearAxis::scaleAxis(double at, double by,
@@ -272,9 +280,9 @@ void FixedPositionLinearAxis::scaleAxis(double at, double by,
     if (candidate == m_scale)
         return;
     m_scale = candidate;
-    Q_EMIT scaleChanged(candidate);
-    updateInternalValues();
-    Q_EMIT axisChangedViaScalingOrScrolling();
+    detail::inTurn(
+        this, [&] { Q_EMIT scaleChanged(candidate); }, [&] { updateInternalValues(); },
+        [&] { Q_EMIT axisChangedViaScalingOrScrolling(); });
 }
 
 void FixedPositionLinearAxis::updateInternalValues()
@@ -283,18 +291,27 @@ void FixedPositionLinearAxis::updateInternalValues()
     m_fullRange = m_numMajorDivisions * m_scale;
     m_inverseRange = 1.0 / m_fullRange;
 
+    detail::inTurn(
+        this, [&] { updateMinimum(); }, [&] { updateMaximum(); }, [&] { invalidateTicks(); },
+        [&] { emitParametersChanged(); });
+}
+
+void FixedPositionLinearAxis::updateMinimum()
+{
     const double minimum = -m_anchor * m_fullRange - m_signedOffset;
-    if (minimum != m_minValue) {
-        m_minValue = minimum;
-        emitMinValChanged(false);
-    }
+    if (minimum == m_minValue)
+        return;
+    m_minValue = minimum;
+    emitMinValChanged(false);
+}
+
+void FixedPositionLinearAxis::updateMaximum()
+{
     const double maximum = m_minValue + m_fullRange;
-    if (maximum != m_maxValue) {
-        m_maxValue = maximum;
-        emitMaxValChanged(false);
-    }
-    invalidateTicks();
-    emitParametersChanged();
+    if (maximum == m_maxValue)
+        return;
+    m_maxValue = maximum;
+    emitMaxValChanged(false);
 }
 
 void FixedPositionLinearAxis::invalidateTicks()

@@ -134,6 +134,9 @@ private:
     friend class LinearAxis; // Places the ticks of this class elsewhere.
     struct FPLScrollScaleState;
 
+    void updateMinimum();
+    void updateMaximum();
+
     // Ranks the two lists, which stand in ascending order of position, and makes them the present
     // ticks.
     void storeTicks(QVector<Tick>& major, QVector<Tick>& minor);
