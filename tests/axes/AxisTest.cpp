@@ -1,6 +1,9 @@
 #include "kestrane/axes/Axis.h"
+#include "kestrane/axes/AggregateAxis.h"
 #include "kestrane/axes/FixedPositionLinearAxis.h"
 #include "kestrane/axes/LinearAxis.h"
+#include "kestrane/axes/LogAxis.h"
+#include "kestrane/axes/MirroredAxis.h"
 
 #include "tests/support/Numbers.h"
 #include "tests/support/SignalLog.h"
@@ -184,6 +187,57 @@ TEST(AxisMetaObjectTest, SignalsAndSlotsStandInOrder)
                      "setOffsetIsAdded(bool)"}) +
             gestureSlots());
     EXPECT_EQ(LinearAxis().metaObject(), &linear);
+}
+
+TEST(AxisMetaObjectTest, LogarithmicAndComposedAxesHaveTheirOwnMethods)
+{
+    struct Row
+    {
+        const QMetaObject* meta;
+        const char* name;
+        QStringList signalNames, slotsBefore, slotsBehind;
+    };
+    const Row rows[] = {
+        {&LogAxis::staticMetaObject,
+         "LogAxis",
+         {"smallestChanged(double)", "largestChanged(double)"},
+         {"setSmallest(double)", "setLargest(double)"},
+         {}},
+        {&MirroredAxis::staticMetaObject, "MirroredAxis", {}, {}, {"onTicksUpdated()"}},
+        {&AggregateAxis::staticMetaObject,
+         "AggregateAxis",
+         {},
+         {},
+         {"setAnchor(double)", "updateReverseMap(Axis*)"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(row.meta->className(), QByteArray("pelorin::ui::chart::") + row.name);
+        EXPECT_EQ(ownMethods(*row.meta, QMetaMethod::Signal), row.signalNames);
+        EXPECT_EQ(ownMethods(*row.meta, QMetaMethod::Slot),
+                  row.slotsBefore + gestureSlots() + row.slotsBehind);
+        EXPECT_EQ(row.meta->propertyCount() - row.meta->propertyOffset(), row.signalNames.size());
+    }
+}
+
+TEST(AxisMetaObjectTest, EveryClassHasTheSameDefaultLimits)
+{
+    LogAxis log(1.0, 100.0), source(1.0, 100.0), sub(1.0, 100.0);
+    MirroredAxis mirror(&source);
+    AggregateAxis aggregate;
+    aggregate.addAxis(&sub, 0.0, 1.0);
+    mirror.scaleAxis(0.5, -0.5); // Each drags its grip to the start and so goes to the top limit.
+    log.scaleAxis(0.5, 0.5);
+    aggregate.scaleAxis(0.5, 0.5);
+    for (LogAxis* axis : {&log, &source, &sub}) {
+        EXPECT_EQ(axis->largest(), Highest);
+        axis->setLargest(100.0);
+    }
+    log.scrollAxis(0.0, 1.0);
+    mirror.scrollAxis(0.0, -1.0);
+    aggregate.scrollAxis(0.0, 1.0);
+    for (const LogAxis* axis : {&log, &source, &sub})
+        EXPECT_EQ(axis->smallest(), 100.0);
 }
 
 TEST(AxisMetaObjectTest, PropertiesAreReadWrittenAndTellOfChanges)
