@@ -1,4 +1,7 @@
 // The sample plot against its plain rules, bit for bit, over data and axes of every kind.
+#include "kestrane/axes/AggregateAxis.h"
+#include "kestrane/axes/LogAxis.h"
+#include "kestrane/axes/MirroredAxis.h"
 #include "kestrane/plots/SamplePlotAlgorithm.h"
 
 #include "tests/plots/PlainSamplePlot.h"
@@ -9,7 +12,10 @@
 #include <cmath>
 #include <cstdint>
 #include <random>
+#include <set>
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 using namespace pelorin::backend;
 using namespace pelorin::ui::chart;
@@ -109,15 +115,45 @@ PlotSnapshot snapshot(Dice& dice)
     return PlotSnapshot(segments);
 }
 
-QSharedPointer<const Axis> axis(Dice& dice)
+Axis* simpleAxis(Dice& dice)
 {
+    if (dice.upTo(4) == 0)
+        return new LogAxis(dice.oneOf({0.01, 0.25, 1.0, 5.0, 0.0, -1.0}),
+                           dice.oneOf({1.0, 3.0, 100.0, 1e4, NaN}));
     const double scale = dice.upTo(9) ? dice.oneOf({0.1, 0.8, 1.0, dice.between(0.01, 3.0)})
                                       : dice.oneOf({-0.5, 0.0, 1e-300});
     const double offset = dice.oneOf({0.0, 0.0, 0.25, dice.between(-2.0, 5.0)});
     const double anchor = dice.oneOf({0.0, 0.0, 0.5});
     if (dice.upTo(7) == 0)
-        return QSharedPointer<ForeignAxis>::create(scale, offset, anchor, dice.upTo(1) == 0);
-    return QSharedPointer<LinearAxis>::create(scale, offset, anchor);
+        return new ForeignAxis(scale, offset, anchor, dice.upTo(1) == 0);
+    if (dice.upTo(3) == 0)
+        return new FixedPositionLinearAxis(scale, offset, anchor, dice.upTo(1) == 0);
+    return new LinearAxis(scale, offset, anchor);
+}
+
+// Of any kind, with mirrors and aggregates down to a depth.
+Axis* anyAxis(Dice& dice, int depth)
+{
+    const int kind = depth > 0 ? dice.upTo(7) : 7;
+    if (kind > 1)
+        return simpleAxis(dice);
+    Axis* const first = anyAxis(dice, depth - 1);
+    auto* const mirror = new MirroredAxis(first);
+    first->setParent(mirror);
+    if (kind == 0)
+        return mirror;
+    auto* const aggregate = new AggregateAxis;
+    Axis* const second = dice.upTo(1) ? first : anyAxis(dice, depth - 1);
+    aggregate->addAxis(mirror, 0.0, 0.5).addAxis(second, 0.5, 1.0);
+    mirror->setParent(aggregate);
+    if (second != first)
+        second->setParent(aggregate);
+    return aggregate;
+}
+
+QSharedPointer<const Axis> axis(Dice& dice)
+{
+    return QSharedPointer<const Axis>(anyAxis(dice, 2));
 }
 
 void expectSame(const std::vector<Points>& actual, const std::vector<Points>& expected)
@@ -139,6 +175,7 @@ void expectSame(const std::vector<Points>& actual, const std::vector<Points>& ex
 TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
 {
     int polylines = 0, symbols = 0;
+    std::set<std::pair<std::string, std::string>> kinds;
     for (unsigned seed = 0; seed < 4000 && !HasFatalFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         Dice dice(seed);
@@ -154,9 +191,11 @@ TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
         const auto expected = plainSamplePlot(snapshot(same), *xAxis, *yAxis, width, spacing);
         expectSame(exact(actual.first), expected.first);
         expectSame(exact(actual.second), expected.second);
+        kinds.emplace(xAxis->metaObject()->className(), yAxis->metaObject()->className());
         polylines += actual.first.size();
         symbols += actual.second.size();
     }
     EXPECT_GT(polylines, 2000);
     EXPECT_GT(symbols, 2000);
+    EXPECT_EQ(kinds.size(), 16u); // Every pair of linear, logarithmic, mirrored and aggregate.
 }
