@@ -1,5 +1,7 @@
 #include "hosts/charting/AxisDivision.h"
 
+#include "hosts/charting/Decimal.h"
+
 #include <kestrane/axes/LinearAxis.h>
 
 #include <algorithm>
@@ -18,24 +20,6 @@ constexpr double roundingAllowance = 1e-9;
 
 constexpr double leastRange = 1e-300; // Its hundredth and its inverse are ordinary numbers.
 
-struct Decimal
-{
-    double digit; // 1.0 <= digit < 10.0, up to rounding
-    int exponent;
-};
-
-Decimal decimalOf(double value)
-{
-    const int exponent = int(std::floor(std::log10(value)));
-    return {value / std::pow(10.0, exponent), exponent};
-}
-
-// Dividing by a whole power keeps 3 * 10^-1 the double nearest to 0.3, which multiplying does not.
-double timesPowerOfTen(double digit, int exponent)
-{
-    return exponent < 0 ? digit / std::pow(10.0, -exponent) : digit * std::pow(10.0, exponent);
-}
-
 // A number of divisions that gives round values to them, should there be one.
 int fixedDivisions(double range, int wanted)
 {
@@ -48,25 +32,15 @@ int fixedDivisions(double range, int wanted)
 
 } // namespace
 
-double AxisDivision::roundStep(double step)
-{
-    const Decimal decimal = decimalOf(step);
-    for (const double digit : {1.0, 2.0, 5.0}) {
-        if (decimal.digit <= digit * (1.0 + roundingAllowance))
-            return timesPowerOfTen(digit, decimal.exponent);
-    }
-    return timesPowerOfTen(1.0, decimal.exponent + 1);
-}
-
 bool AxisDivision::isRoundStep(double step)
 {
-    return step > roundStep(step) * (1.0 - roundingAllowance);
+    return step > roundedUp(step) * (1.0 - roundingAllowance);
 }
 
 int AxisDivision::minorDivisionsOf(double step)
 {
     constexpr int divisions[] = {5, 5, 4, 3, 4, 5, 3, 7, 4, 3, 5}; // by the leading digit
-    return divisions[std::lround(decimalOf(step).digit)];
+    return divisions[std::lround(Decimal::of(step).digit)];
 }
 
 bool AxisDivision::isUsableRange(double from, double to)
@@ -86,7 +60,7 @@ std::pair<double, double> AxisDivision::spread(double low, double high)
 
 std::pair<double, double> AxisDivision::rounded(double from, double to, int wanted)
 {
-    const double step = roundStep((to - from) / wanted);
+    const double step = roundedUp((to - from) / wanted);
     const int minor = minorDivisionsOf(step);
     const double first = std::floor(from / step * minor + roundingAllowance);
     const double last = std::ceil(to / step * minor - roundingAllowance);
@@ -99,7 +73,7 @@ AxisDivision AxisDivision::of(double from, double to, int wanted, TickPlaces pla
         const int divisions = fixedDivisions(to - from, wanted);
         return withPlaces(from, (to - from) / divisions, divisions);
     }
-    return withStep(from, to, roundStep((to - from) / wanted));
+    return withStep(from, to, roundedUp((to - from) / wanted));
 }
 
 AxisDivision AxisDivision::withStep(double from, double to, double step)

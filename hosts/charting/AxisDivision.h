@@ -1,6 +1,8 @@
 #ifndef HOSTS_CHARTING_AXISDIVISION_H
 #define HOSTS_CHARTING_AXISDIVISION_H
 
+#include "hosts/charting/ShownAxis.h"
+
 #include <kestrane/axes/FixedPositionLinearAxis.h>
 
 #include <QSharedPointer>
@@ -47,10 +49,7 @@ struct AxisDivision
     /// A range that ends on minor divisions and holds @p from to @p to.
     static std::pair<double, double> rounded(double from, double to, int wanted);
 
-    /// The smallest of 1, 2, 5 times a power of ten that is not below @p step.
-    static double roundStep(double step);
-
-    /// Whether roundStep() leaves @p step as it is, up to rounding.
+    /// Whether @p step is 1, 2 or 5 times a power of ten, up to rounding.
     static bool isRoundStep(double step);
 
     /// How many minor divisions suit a major step: they fall on round values too.
@@ -60,6 +59,8 @@ struct AxisDivision
     double to() const { return from + step * major * visible; }
 
     QSharedPointer<pelorin::ui::chart::FixedPositionLinearAxis> makeAxis() const;
+
+    ShownAxis shown() const { return {makeAxis(), visible}; }
 };
 
 } // namespace hosts::charting

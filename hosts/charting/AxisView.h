@@ -1,7 +1,7 @@
 #ifndef HOSTS_CHARTING_AXISVIEW_H
 #define HOSTS_CHARTING_AXISVIEW_H
 
-#include "hosts/charting/AxisDivision.h"
+#include "hosts/charting/ShownAxis.h"
 #include "hosts/charting/TickMark.h"
 
 #include <kestrane/axes/TickFormatter.h>
@@ -15,15 +15,18 @@
 namespace hosts::charting {
 
 /// One axis of a chart: the part of it that is shown, and how its ticks are labelled.
+///
+/// On a linear axis the major ticks have labels, with one prefix for all. On a logarithmic one the
+/// minor ones have labels too, since there may be no others, and each label has its own prefix.
 class AxisView
 {
 public:
     /// @param quantity a name that the QuantityManager knows, or empty for plain numbers
     /// @param reference NaN, or the value that labels give the distance from
-    AxisView(const AxisDivision& division, const QString& quantity,
+    AxisView(const ShownAxis& shown, const QString& quantity,
              double reference = std::numeric_limits<double>::quiet_NaN());
 
-    QSharedPointer<pelorin::ui::chart::FixedPositionLinearAxis> axis() const { return m_axis; }
+    QSharedPointer<pelorin::ui::chart::Axis> axis() const { return m_axis; }
 
     /// The axis position at the end of the plot.
     double visible() const { return m_visible; }
@@ -41,12 +44,15 @@ public:
     QVector<TickMark> marks() const;
 
 private:
-    void appendMarks(const QVector<pelorin::ui::chart::Axis::Tick>& ticks, bool major,
-                     QVector<TickMark>& marks) const;
-    pelorin::ui::chart::Axis::Tick withCleanZero(const pelorin::ui::chart::Axis::Tick& tick) const;
-    void adaptFormatter();
+    using Ticks = QVector<pelorin::ui::chart::Axis::Tick>;
 
-    QSharedPointer<pelorin::ui::chart::FixedPositionLinearAxis> m_axis;
+    Ticks visibleTicks(bool major) const;
+    QVector<double> labelledValues() const;
+    bool isLogarithmic() const;
+    pelorin::ui::chart::Axis::Tick withCleanZero(const pelorin::ui::chart::Axis::Tick& tick) const;
+    void adaptFormatter(const QVector<double>& values);
+
+    QSharedPointer<pelorin::ui::chart::Axis> m_axis;
     QSharedPointer<pelorin::ui::chart::TickFormatter> m_formatter;
     double m_visible;
     double m_reference;

@@ -3,6 +3,7 @@
 #include "hosts/charting/LabelPlacer.h"
 
 #include <algorithm>
+#include <cmath>
 #include <functional>
 #include <utility>
 
@@ -16,12 +17,21 @@ constexpr double tickLabelDistance = 9.0; // From the plot.
 constexpr double edge = 12.0;             // Free space along the edge of the picture.
 constexpr double spacing = 8.0;           // Between blocks of text.
 constexpr double breathing = 2.0;         // The least that a tick label keeps from the edge.
+const QSizeF minorLabelGap(2.5, 1.75);    // In heights of a text; so many labels need some calm.
 constexpr double sampleWidth = 18.0;
 constexpr double sampleDistance = 6.0;
 constexpr double entryDistance = 18.0;
 constexpr double mostLegendWidth = 260.0;
 constexpr double mostLegendShare = 0.25; // Of the picture's height.
 constexpr double smallestPlot = 10.0;
+
+// Whether they tell how values are spread: two at different places do.
+bool haveMajorsAScale(const QVector<TickMark>& marks)
+{
+    return std::any_of(marks.cbegin(), marks.cend(), [&](const TickMark& mark) {
+        return mark.major && std::abs(mark.place - marks.first().place) > 1e-6;
+    });
+}
 
 class LayoutWork
 {
@@ -41,13 +51,18 @@ public:
     }
 
 private:
+    // The top left corner of a label of some size for a tick at some place.
+    using Corner = std::function<QPointF(double place, const QSizeF& size)>;
+
     void placePlot(const ChartTexts& texts);
     void placeLegend(const QStringList& names, double top, double left, double right);
     void endLegend(int names, double left, double right);
     void placeHeadings(const ChartTexts& texts);
     void placeTickLabels(const ChartTexts& texts);
-    void takeLabel(LabelPlacer& placer, const QStringList& lines, const QRectF& place,
-                   Qt::Alignment alignment);
+    void placeLabelsOf(const QVector<TickMark>& marks, Qt::Alignment alignment, LabelPlacer& placer,
+                       const Corner& corner);
+    void appendLines(const QStringList& lines, const QRectF& place, Qt::Alignment alignment);
+    QRectF picture() const;
     QSizeF labelSize(const QStringList& lines) const;
     double leftMargin(const ChartTexts& texts) const;
     double rightMargin(const ChartTexts& texts, double left) const;
@@ -202,33 +217,44 @@ void LayoutWork::placeHeadings(const ChartTexts& texts)
 
 void LayoutWork::placeTickLabels(const ChartTexts& texts)
 {
-    const QRectF picture(QPointF(0.0, 0.0), m_layout.size);
-    LabelPlacer placer(picture.adjusted(breathing, breathing, -breathing, -breathing),
-                       QSizeF(spacing, 0.0));
+    LabelPlacer placer(picture());
     placer.take(m_layout.title.place);
     placer.take(m_layout.xCaption.place);
     placer.take(m_layout.yCaption.place);
     for (const LegendEntry& entry : std::as_const(m_layout.legend))
         placer.take(entry.name.place);
-    for (const TickMark& mark : texts.xMarks) {
+    placeLabelsOf(texts.xMarks, Qt::AlignHCenter, placer, [&](double place, const QSizeF& size) {
+        return QPointF(m_layout.xAt(place) - size.width() / 2.0,
+                       m_layout.plot.bottom() + tickLabelDistance);
+    });
+    placeLabelsOf(texts.yMarks, Qt::AlignRight, placer, [&](double place, const QSizeF& size) {
+        return QPointF(m_layout.plot.left() - tickLabelDistance - size.width(),
+                       m_layout.yAt(place) - size.height() / 2.0);
+    });
+}
+
+// From all other texts a label keeps apart just so; from those of its axis further if it is that of
+// a minor tick and can be done without.
+void LayoutWork::placeLabelsOf(const QVector<TickMark>& marks, Qt::Alignment alignment,
+                               LabelPlacer& placer, const Corner& corner)
+{
+    const double height = m_measure.height(Style::Text);
+    const QSizeF gap(spacing, 0.0);
+    const QSizeF minorGap = haveMajorsAScale(marks) ? minorLabelGap * height : gap;
+    LabelPlacer ofAxis(picture());
+    for (const TickMark& mark : marks) {
         const QSizeF size = labelSize(mark.label);
-        const QPointF corner(m_layout.xAt(mark.place) - size.width() / 2.0,
-                             m_layout.plot.bottom() + tickLabelDistance);
-        takeLabel(placer, mark.label, QRectF(corner, size), Qt::AlignHCenter);
-    }
-    for (const TickMark& mark : texts.yMarks) {
-        const QSizeF size = labelSize(mark.label);
-        const QPointF corner(m_layout.plot.left() - tickLabelDistance - size.width(),
-                             m_layout.yAt(mark.place) - size.height() / 2.0);
-        takeLabel(placer, mark.label, QRectF(corner, size), Qt::AlignRight);
+        const QRectF place(corner(mark.place, size), size);
+        if (!placer.isFree(place, gap) || !ofAxis.isFree(place, mark.major ? gap : minorGap))
+            continue;
+        placer.take(place);
+        ofAxis.take(place);
+        appendLines(mark.label, place, alignment);
     }
 }
 
-void LayoutWork::takeLabel(LabelPlacer& placer, const QStringList& lines, const QRectF& place,
-                           Qt::Alignment alignment)
+void LayoutWork::appendLines(const QStringList& lines, const QRectF& place, Qt::Alignment alignment)
 {
-    if (!placer.take(place))
-        return;
     const double height = m_measure.height(Style::Text);
     double y = place.top();
     for (const QString& line : lines) {
@@ -238,6 +264,13 @@ void LayoutWork::takeLabel(LabelPlacer& placer, const QStringList& lines, const 
             {line, QRectF(place.left() + shift, y, place.width() - free, height)});
         y += height;
     }
+}
+
+// Where texts may be.
+QRectF LayoutWork::picture() const
+{
+    return QRectF(QPointF(0.0, 0.0), m_layout.size)
+        .adjusted(breathing, breathing, -breathing, -breathing);
 }
 
 } // namespace

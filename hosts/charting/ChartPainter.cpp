@@ -14,13 +14,31 @@ using Style = TextMeasure::Style;
 
 namespace {
 
-// Nearer to each other, minor ticks would run together.
-constexpr double leastTickDistance = 3.5;
+// Minor ticks that are nearer to each other than that, on an average or any two, run together.
+constexpr double leastMeanDistance = 3.5;
+constexpr double leastDistance = 3.0;
+
+// Ticks at the very same place count as one.
+double smallestDistance(const QVector<TickMark>& marks)
+{
+    QVector<double> places;
+    for (const TickMark& mark : marks)
+        places.append(mark.place);
+    std::sort(places.begin(), places.end());
+    double smallest = 1.0;
+    for (int i = 1; i < places.size(); ++i) {
+        const double distance = places[i] - places[i - 1];
+        if (distance > 1e-6)
+            smallest = std::min(smallest, distance);
+    }
+    return smallest;
+}
 
 template<typename Action>
 void forEachMark(const QVector<TickMark>& marks, double length, const Action& act)
 {
-    const bool haveMinorsRoom = marks.size() * leastTickDistance <= length;
+    const bool haveMinorsRoom = marks.size() * leastMeanDistance <= length &&
+                                smallestDistance(marks) * length >= leastDistance;
     for (const TickMark& mark : marks) {
         if (mark.major || haveMinorsRoom)
             act(mark);

@@ -9,21 +9,22 @@ namespace hosts::charting {
 /// Keeps texts apart. Whoever asks first gets the place, so ask in order of importance.
 ///
 /// Laws:
-///  1. No two rectangles that were granted overlap, nor come nearer to each other than the gap.
+///  1. A place is free if it comes no nearer to those taken before than the gap that it is to have.
 ///  2. None of them passes the bounds.
 class LabelPlacer
 {
 public:
-    /// @param gap the least free width and the least free height between two places
-    LabelPlacer(const QRectF& bounds, const QSizeF& gap);
+    explicit LabelPlacer(const QRectF& bounds);
 
-    /// True if the place is free and now taken; false if it is not to be had.
-    /// An empty rectangle, one with a NaN in it too, is never granted.
-    bool take(const QRectF& place);
+    /// Whether @p place is within the bounds and free, also so much around it.
+    /// An empty rectangle, one with a NaN in it too, never is.
+    bool isFree(const QRectF& place, const QSizeF& gap) const;
+
+    /// Takes a place that is free.
+    void take(const QRectF& place);
 
 private:
     QRectF m_bounds;
-    QSizeF m_gap;
     QVector<QRectF> m_taken;
 };
 

@@ -1,5 +1,6 @@
 #include "hosts/kestrane-chart/CommandLine.h"
 
+#include "hosts/kestrane-chart/AxisKind.h"
 #include "hosts/kestrane-chart/PictureFile.h"
 #include "hosts/kestrane-chart/RawOptions.h"
 #include "hosts/kestrane-chart/UsageError.h"
@@ -19,8 +20,6 @@
 
 namespace hosts::chart {
 
-using charting::AxisDivision;
-using charting::TickPlaces;
 using pelorin::utilities::Singleton;
 using pelorin::variables::QuantityManager;
 
@@ -42,10 +41,10 @@ QStringList texts(const std::vector<std::string>& raw)
 void checkNumbers(const RawOptions& raw)
 {
     const std::pair<const char*, std::optional<double>> numbers[] = {
-        {"--start", raw.start},    {"--step", raw.step}, {"--from", raw.from},
-        {"--to", raw.to},          {"--top", raw.top},   {"--x-relative", raw.xReference},
-        {"--bottom", raw.bottom},  {"--dpi", raw.dpi},   {"--y-relative", raw.yReference},
-        {"--symbols", raw.symbols}};
+        {"--start", raw.start},     {"--step", raw.step},      {"--from", raw.from},
+        {"--to", raw.to},           {"--top", raw.top},        {"--x-relative", raw.xReference},
+        {"--bottom", raw.bottom},   {"--dpi", raw.dpi},        {"--y-relative", raw.yReference},
+        {"--symbols", raw.symbols}, {"--x-joint", raw.xJoint}, {"--y-joint", raw.yJoint}};
     for (const auto& [name, value] : numbers) {
         if (value && !std::isfinite(*value))
             throw UsageError(QStringLiteral("%1: not a finite number").arg(QLatin1String(name)));
@@ -58,16 +57,6 @@ void checkNumbers(const RawOptions& raw)
     }
     if (raw.symbols < 0.0)
         throw UsageError(QStringLiteral("--symbols: must not be negative"));
-}
-
-void checkRange(const AxisOptions& axis)
-{
-    if (!axis.from || !axis.to || AxisDivision::isUsableRange(*axis.from, *axis.to))
-        return;
-    const bool isOrdered = *axis.from < *axis.to;
-    throw UsageError(axis.rangeText() +
-                     (isOrdered ? QStringLiteral(": the range is too narrow or too wide")
-                                : QStringLiteral(": the range is empty")));
 }
 
 void checkQuantity(const std::string& name)
@@ -123,16 +112,28 @@ data::ReadOptions readOptionsOf(const RawOptions& raw)
     return read;
 }
 
+Show showOf(const RawOptions& raw)
+{
+    return raw.show == "slope"      ? Show::Slope
+           : raw.show == "spectrum" ? Show::Spectrum
+                                    : Show::Values;
+}
+
 AxisOptions xOptionsOf(const RawOptions& raw)
 {
     AxisOptions x;
+    x.name = QStringLiteral("x");
     x.fromName = QStringLiteral("--from");
     x.toName = QStringLiteral("--to");
     x.caption = text(raw.xCaption);
     x.quantity = text(raw.xQuantity);
+    if (showOf(raw) == Show::Spectrum && x.quantity == QLatin1String("time"))
+        x.quantity = QStringLiteral("frequency");
     x.unit = text(raw.xUnit);
+    x.kind = &AxisKind::named(text(raw.xKind));
     x.from = raw.from;
     x.to = raw.to;
+    x.joint = raw.xJoint;
     x.reference = raw.xReference.value_or(x.reference);
     return x;
 }
@@ -140,13 +141,16 @@ AxisOptions xOptionsOf(const RawOptions& raw)
 AxisOptions yOptionsOf(const RawOptions& raw)
 {
     AxisOptions y;
+    y.name = QStringLiteral("y");
     y.fromName = QStringLiteral("--bottom");
     y.toName = QStringLiteral("--top");
     y.caption = text(raw.yCaption);
     y.quantity = text(raw.yQuantity);
     y.unit = text(raw.yUnit);
+    y.kind = &AxisKind::named(text(raw.yKind));
     y.from = raw.bottom;
     y.to = raw.top;
+    y.joint = raw.yJoint;
     y.reference = raw.yReference.value_or(y.reference);
     return y;
 }
@@ -160,9 +164,9 @@ Options optionsOf(const RawOptions& raw)
     options.inputs = texts(raw.inputs);
     options.output = text(raw.output);
     options.read = readOptionsOf(raw);
+    options.show = showOf(raw);
     options.x = xOptionsOf(raw);
     options.y = yOptionsOf(raw);
-    options.ticks = raw.ticks == "fixed" ? TickPlaces::Fixed : TickPlaces::Moving;
     options.title = text(raw.title);
     options.legend = texts(raw.legend);
     options.showLegend = !raw.noLegend;
@@ -170,8 +174,8 @@ Options optionsOf(const RawOptions& raw)
     options.symbolSpacing = raw.symbols;
     options.size = readSize(raw.size);
     options.dpi = raw.dpi;
-    checkRange(options.x);
-    checkRange(options.y);
+    options.x.kind->check(options.x);
+    options.y.kind->check(options.y);
     checkPixels(options.size, options.dpi);
     checkFiles(options);
     return options;

@@ -1,8 +1,9 @@
 #include "hosts/kestrane-chart/Drawing.h"
 
-#include "hosts/charting/AutoRange.h"
 #include "hosts/charting/FontMeasure.h"
+#include "hosts/kestrane-chart/AxisKind.h"
 #include "hosts/kestrane-chart/Extent.h"
+#include "hosts/kestrane-chart/PlacedSamples.h"
 #include "hosts/kestrane-chart/UsageError.h"
 #include "hosts/kestrane-chart/WorkError.h"
 
@@ -16,14 +17,13 @@
 
 namespace hosts::chart {
 
-using charting::AxisDivision;
 using charting::AxisView;
 using charting::Chart;
 using charting::ChartLayout;
 using charting::ChartTexts;
 using charting::Curve;
 using charting::Look;
-using charting::TickPlaces;
+using charting::ShownAxis;
 using data::Series;
 using pelorin::backend::PlotSegment;
 using pelorin::backend::PlotSnapshot;
@@ -37,14 +37,6 @@ namespace {
 
 constexpr int pixelsPerXDivision = 100;
 constexpr int pixelsPerYDivision = 60;
-
-QString outsideText(const AxisOptions& axis, const Extent& data)
-{
-    return QStringLiteral("%1: the data go from %2 to %3")
-        .arg(axis.rangeText())
-        .arg(data.low, 0, 'g', 10)
-        .arg(data.high, 0, 'g', 10);
-}
 
 // Line ends and their like have no picture, and no place in an SVG.
 QString printable(QString text)
@@ -73,21 +65,13 @@ QString quantityOf(const AxisOptions& axis)
     return name;
 }
 
-AxisDivision xDivision(const std::vector<Series>& series, const Options& options)
+ShownAxis xAxis(const std::vector<Series>& series, const Options& options)
 {
-    const std::optional<Extent> data = Extent::ofAbscissas(series);
-    if (!data)
+    const AxisKind& kind = *options.x.kind;
+    if (!Extent::ofAbscissas(series, Extent::asItIs))
         throw WorkError(QStringLiteral("there are no samples to draw"));
-    const auto spread = AxisDivision::spread(data->low, data->high);
-    const double least = options.x.from.value_or(spread.first);
-    const double most = options.x.to.value_or(spread.second);
-    if (least > data->high || most < data->low || !AxisDivision::isUsableRange(least, most))
-        throw WorkError(outsideText(options.x, *data));
-    const int wanted = divisionsIn(options.size.width(), pixelsPerXDivision);
-    const auto rounded = AxisDivision::rounded(least, most, wanted);
-    const double from = options.x.from.value_or(rounded.first);
-    const double to = options.x.to.value_or(rounded.second);
-    return AxisDivision::of(from, to, wanted, options.ticks);
+    return kind.forAbscissas(options.x, Extent::ofAbscissas(series, kind.measure()),
+                             divisionsIn(options.size.width(), pixelsPerXDivision));
 }
 
 // A sample between two gaps has no line, so it needs a mark of its own at any distance.
@@ -107,23 +91,40 @@ QVector<QPointF> loneSamples(const Series& series, const AxisView& x, const Axis
     return points;
 }
 
+// Whether symbols suit is judged by the distance of samples at the left; on a logarithmic axis they
+// crowd further right.
+QVector<QPointF> uncrowded(const QVector<QPointF>& symbols, double distance)
+{
+    const double least = distance * (1.0 - 1e-6); // Rounding must not thin out a regular row.
+    QVector<QPointF> apart;
+    for (int i = 0; i < symbols.size(); ++i) {
+        const double x = symbols[i].x();
+        const bool isNearPrevious = i > 0 && x - symbols[i - 1].x() < least;
+        const bool isNearNext = i + 1 < symbols.size() && symbols[i + 1].x() - x < least;
+        if (!isNearPrevious && !isNearNext)
+            apart.append(symbols[i]);
+    }
+    return apart;
+}
+
 Curve curveOf(const Series& series, const AxisView& x, const AxisView& y, double plotWidth,
               const Options& options)
 {
     const double columnWidth = x.visible() / (plotWidth * options.deviceScale());
+    const double symbolColumns = options.symbolSpacing * options.deviceScale();
+    PlacedSamples samples = PlacedSamples::of(series.snapshot, y.axis());
     SamplePlotAlgorithm algorithm;
-    algorithm.setSnapshot(series.snapshot);
-    const auto segments = algorithm.createSegments(x.axis(), y.axis(), columnWidth,
-                                                   options.symbolSpacing * options.deviceScale());
+    algorithm.setSnapshot(std::move(samples.snapshot));
+    auto segments = algorithm.createSegments(x.axis(), samples.yAxis, columnWidth, symbolColumns);
+    for (QVector<QPointF>& symbols : segments.second)
+        symbols = uncrowded(symbols, symbolColumns * columnWidth);
     return {segments.first, segments.second, loneSamples(series, x, y, columnWidth)};
 }
 
 // What is to be seen of the curves: between samples a spline goes beyond them.
-Extent extentOfCurves(const std::vector<Series>& series, const AxisView& x, const Extent& data,
-                      const Options& options)
+Extent extentOfCurves(const std::vector<Series>& series, const AxisView& x, const AxisView& y,
+                      const Extent& data, const Options& options)
 {
-    const auto range = AxisDivision::spread(data.low, data.high);
-    const AxisView y(AxisDivision::of(range.first, range.second, 2, TickPlaces::Fixed), QString());
     Extent extent = data;
     for (const Series& one : series) {
         for (const auto& polyline : curveOf(one, x, y, options.size.width(), options).polylines) {
@@ -136,25 +137,18 @@ Extent extentOfCurves(const std::vector<Series>& series, const AxisView& x, cons
     return extent;
 }
 
-AxisDivision yDivision(const std::vector<Series>& series, const AxisView& x, const Options& options)
+ShownAxis yAxis(const std::vector<Series>& series, const AxisView& x, const Options& options)
 {
+    const AxisKind& kind = *options.y.kind;
     const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
     if (!data)
         throw WorkError(options.x.rangeText() + QStringLiteral(": a gap in the data"));
-    if (!std::isfinite((data->high - data->low) * 8.0))
-        throw WorkError(QStringLiteral("the values, from %1 to %2, are too far apart to draw")
-                            .arg(data->low)
-                            .arg(data->high));
-    const Extent seen = extentOfCurves(series, x, *data, options);
-    const int wanted = divisionsIn(options.size.height(), pixelsPerYDivision);
-    const AxisDivision automatic = charting::autoRange(seen.low, seen.high, wanted, options.ticks);
-    if (!options.y.from && !options.y.to)
-        return automatic;
-    const double bottom = options.y.from.value_or(automatic.from);
-    const double top = options.y.to.value_or(automatic.to());
-    if (!AxisDivision::isUsableRange(bottom, top))
-        throw WorkError(outsideText(options.y, *data));
-    return AxisDivision::of(bottom, top, wanted, options.ticks);
+    return kind.forValues(
+        options.y, Extent::ofValues(series, x.from(), x.to(), kind.measure()),
+        [&](const ShownAxis& y) {
+            return extentOfCurves(series, x, AxisView(y, QString()), *data, options);
+        },
+        divisionsIn(options.size.height(), pixelsPerYDivision));
 }
 
 QStringList curveNames(const std::vector<Series>& series, const Options& options)
@@ -188,8 +182,8 @@ ChartTexts textsOf(const AxisView& x, const AxisView& y, const QStringList& name
 
 Drawing Drawing::of(const std::vector<Series>& series, const Options& options)
 {
-    const AxisView x(xDivision(series, options), quantityOf(options.x), options.x.reference);
-    const AxisView y(yDivision(series, x, options), quantityOf(options.y), options.y.reference);
+    const AxisView x(xAxis(series, options), quantityOf(options.x), options.x.reference);
+    const AxisView y(yAxis(series, x, options), quantityOf(options.y), options.y.reference);
     Chart chart = {textsOf(x, y, curveNames(series, options), options), x, y, {}};
     const Look look = options.isDark ? Look::dark() : Look::light();
     const ChartLayout layout =

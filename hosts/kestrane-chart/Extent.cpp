@@ -22,7 +22,20 @@ double abscissaOf(const PlotSegment& segment, double index)
     return index * segment.xInfo.scale + segment.xInfo.offset;
 }
 
-void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, double from, double to)
+// Its ends, and what is next to zero.
+void takeAbscissas(std::optional<Extent>& extent, const PlotSegment& segment,
+                   Extent::Measure measure)
+{
+    if (segment.count == 0)
+        return;
+    const double last = double(segment.count - 1);
+    const double zero = std::round(-segment.xInfo.offset / segment.xInfo.scale);
+    for (const double index : {0.0, zero - 1.0, zero, zero + 1.0, last})
+        widen(extent, measure(abscissaOf(segment, std::clamp(index, 0.0, last))));
+}
+
+void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, double from, double to,
+                Extent::Measure measure)
 {
     const double last = double(segment.count - 1);
     if (segment.count == 0 || abscissaOf(segment, 0.0) > to || abscissaOf(segment, last) < from)
@@ -33,7 +46,7 @@ void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, doubl
     const auto first = std::ptrdiff_t(std::clamp(ends.first, 0.0, last));
     const auto end = std::ptrdiff_t(std::clamp(ends.second, 0.0, last)) + 1;
     for (auto sample = segment.begin + first; sample != segment.begin + end; ++sample)
-        widen(extent, *sample);
+        widen(extent, measure(*sample));
 }
 
 } // namespace
@@ -46,27 +59,23 @@ void Extent::take(double value)
     high = std::max(high, value);
 }
 
-std::optional<Extent> Extent::ofAbscissas(const std::vector<data::Series>& series)
+std::optional<Extent> Extent::ofAbscissas(const std::vector<data::Series>& series, Measure measure)
 {
     std::optional<Extent> extent;
     for (const data::Series& one : series) {
-        for (const PlotSegment& segment : one.snapshot.segments) {
-            if (segment.count == 0)
-                continue;
-            widen(extent, abscissaOf(segment, 0.0));
-            widen(extent, abscissaOf(segment, double(segment.count - 1)));
-        }
+        for (const PlotSegment& segment : one.snapshot.segments)
+            takeAbscissas(extent, segment, measure);
     }
     return extent;
 }
 
 std::optional<Extent> Extent::ofValues(const std::vector<data::Series>& series, double from,
-                                       double to)
+                                       double to, Measure measure)
 {
     std::optional<Extent> extent;
     for (const data::Series& one : series) {
         for (const PlotSegment& segment : one.snapshot.segments)
-            takeValues(extent, segment, from, to);
+            takeValues(extent, segment, from, to, measure);
     }
     return extent;
 }

@@ -1,33 +1,17 @@
 #ifndef HOSTS_KESTRANE_CHART_OPTIONS_H
 #define HOSTS_KESTRANE_CHART_OPTIONS_H
 
-#include "hosts/charting/AxisDivision.h"
 #include "hosts/data/ReadOptions.h"
+#include "hosts/kestrane-chart/AxisOptions.h"
 
 #include <QSize>
 #include <QString>
 #include <QStringList>
 
-#include <limits>
-#include <optional>
-
 namespace hosts::chart {
 
-/// What the user wants of one axis.
-struct AxisOptions
-{
-    /// The range as it was asked for on the command line, such as "--from 3 --to 4".
-    QString rangeText() const;
-
-    QString fromName; ///< What the command line calls the two limits.
-    QString toName;
-    QString caption;
-    QString quantity;
-    QString unit; ///< Written as it is behind each number.
-    std::optional<double> from;
-    std::optional<double> to;
-    double reference = std::numeric_limits<double>::quiet_NaN();
-};
+/// What is to be drawn of a recording.
+enum class Show { Values, Slope, Spectrum };
 
 /// The whole command line, checked as far as that can be done without the data.
 struct Options
@@ -38,9 +22,9 @@ struct Options
     QStringList inputs;
     QString output;
     data::ReadOptions read;
+    Show show = Show::Values;
     AxisOptions x;
     AxisOptions y;
-    charting::TickPlaces ticks = charting::TickPlaces::Moving;
     QString title;
     QStringList legend; ///< Names in place of those of the data.
     bool showLegend = true;

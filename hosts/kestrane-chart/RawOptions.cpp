@@ -1,8 +1,11 @@
 #include "hosts/kestrane-chart/RawOptions.h"
 
+#include "hosts/kestrane-chart/AxisKind.h"
+
 #include <CLI/CLI.hpp>
 
 #include <memory>
+#include <utility>
 
 namespace hosts::chart {
 
@@ -11,12 +14,20 @@ namespace {
 constexpr auto footer = R"(Data
   Tables (CSV, TSV) and sounds (WAV, FLAC, Ogg). Each column or channel becomes a curve. A missing
   number is a gap in its curve.
+  --show slope draws the change from sample to sample over the distance of x; --show spectrum the
+  amplitudes in the longest run without a gap, over frequency, in hertz with --x-quantity time.
 
 Ranges
   --from, --to, --bottom and --top are kept exactly. What is left open follows from the data: x
   covers them and ends on a tick, y leaves some room above and below.
-  With moving ticks the ticks stand on round values, wherever these fall in the range; with fixed
-  ticks they divide the range evenly from its left or lower end on, whatever values that gives.
+
+Kinds of axes
+  linear   ticks on round values, wherever these fall in the range
+  fixed    ticks that divide the range evenly from its left or lower end on
+  log      powers of ten at equal distances. Only what is above 0 has a place: a line leaves the
+           picture where its values are not. An open y reaches down twelve decades at the most.
+  bipolar  such an axis for each sign, end to end, with equal limits. They meet at the joint, by
+           default six decades below the limits at the most; what is nearer to 0 lies on it.
 
 Pictures
   The ending of the output's name says what it becomes. A picture of 1000x600 has as many pixels
@@ -27,7 +38,16 @@ Exit status: 0 done; 1 it could not be done; 2 wrong usage. A picture is written
 Examples
   kestrane-chart ecg.csv --step 0.0027777778 --x-quantity time --y-unit mV -o ecg.png
   kestrane-chart eeg.csv --column Fz --column Cz --from 2 --to 4 --look dark -o eeg.svg
-  kestrane-chart voice.flac --x-quantity time --title Voice --dpi 192 -o voice.png)";
+  kestrane-chart voice.flac --x-quantity time --title Voice --dpi 192 -o voice.png
+  kestrane-chart voice.flac --show spectrum --x-axis log --y-axis log -o spectrum.png)";
+
+std::vector<std::string> kindNames()
+{
+    std::vector<std::string> names;
+    for (const QString& name : AxisKind::names())
+        names.push_back(name.toStdString());
+    return names;
+}
 
 // Says of an option only what to write behind it; the rest is in its description.
 class HelpFormatter : public CLI::Formatter
@@ -54,6 +74,9 @@ void addDataOptions(CLI::App& app, RawOptions& raw)
     group(app.add_option("--time-column", raw.timeColumn,
                          "Column with the x values, or 'none' to count the rows")
               ->type_name("NAME"));
+    group(app.add_option("--show", raw.show, "values, the default; slope or spectrum: see below")
+              ->check(CLI::IsMember({"values", "slope", "spectrum"}))
+              ->type_name("WHAT"));
     group(app.add_option("--start", raw.start, "x of the first sample")->type_name("X"));
     group(app.add_option("--step", raw.step, "Distance of the samples in x")->type_name("X"));
 }
@@ -74,6 +97,12 @@ void addAxisOptions(CLI::App& app, RawOptions& raw)
     const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
         return app.add_option(name, value, help)->type_name(type)->group("Axes");
     };
+    for (const auto& [name, kind] :
+         {std::pair("--x-axis", &raw.xKind), std::pair("--y-axis", &raw.yKind)})
+        add(name, *kind, "KIND", "linear, the default; fixed, log or bipolar: see below")
+            ->check(CLI::IsMember(kindNames()));
+    add("--x-joint", raw.xJoint, "VALUE", "Where the halves of a bipolar x axis meet");
+    add("--y-joint", raw.yJoint, "VALUE", "Where the halves of a bipolar y axis meet");
     add("--x-caption", raw.xCaption, "TEXT", "What x is");
     add("--y-caption", raw.yCaption, "TEXT", "What y is");
     add("--x-quantity", raw.xQuantity, "NAME",
@@ -84,9 +113,6 @@ void addAxisOptions(CLI::App& app, RawOptions& raw)
     add("--y-unit", raw.yUnit, "TEXT", "Unit of y")->excludes("--y-quantity");
     add("--x-relative", raw.xReference, "VALUE", "Label x by the distance from this value");
     add("--y-relative", raw.yReference, "VALUE", "Label y by the distance from this value");
-    add("--ticks", raw.ticks, "WHERE",
-        "moving: ticks on round values, the default; fixed: at fixed places")
-        ->check(CLI::IsMember({"moving", "fixed"}));
 }
 
 void addPictureOptions(CLI::App& app, RawOptions& raw)

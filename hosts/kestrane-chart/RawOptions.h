@@ -24,11 +24,14 @@ struct RawOptions
     std::string timeColumn;
     std::vector<std::string> legend;
     std::string title;
-    std::string ticks = "moving";
+    std::string show = "values";
+    std::string xKind = "linear";
+    std::string yKind = "linear";
     std::string look = "light";
     std::string size = "1000x600";
     std::string xCaption, yCaption, xQuantity, yQuantity, xUnit, yUnit;
-    std::optional<double> start, step, from, to, bottom, top, xReference, yReference;
+    std::optional<double> start, step, from, to, bottom, top, xReference, yReference, xJoint,
+        yJoint;
     double dpi = 96.0;
     double symbols = 8.0;
     bool noLegend = false;

@@ -1,5 +1,7 @@
 #include "hosts/charting/ChartPainter.h"
 #include "hosts/data/RecordingReader.h"
+#include "hosts/data/Slope.h"
+#include "hosts/data/Spectrum.h"
 #include "hosts/kestrane-chart/CommandLine.h"
 #include "hosts/kestrane-chart/Drawing.h"
 #include "hosts/kestrane-chart/PictureFile.h"
@@ -52,11 +54,32 @@ std::vector<data::Series> readAll(const chart::Options& options)
     return all;
 }
 
+data::Series shown(const data::Series& series, chart::Show show)
+{
+    switch (show) {
+    case chart::Show::Slope:
+        return data::slopeOf(series);
+    case chart::Show::Spectrum:
+        return data::spectrumOf(series);
+    case chart::Show::Values:
+        break;
+    }
+    return series;
+}
+
+std::vector<data::Series> readWhatToShow(const chart::Options& options)
+{
+    std::vector<data::Series> all = readAll(options);
+    for (data::Series& series : all)
+        series = shown(series, options.show);
+    return all;
+}
+
 void draw(const chart::Options& options)
 {
     const chart::PictureFile file(options.output, options.size, options.dpi,
                                   options.title.simplified());
-    const chart::Drawing drawing = chart::Drawing::of(readAll(options), options);
+    const chart::Drawing drawing = chart::Drawing::of(readWhatToShow(options), options);
     file.write([&](QPainter& painter, double deviceScale) {
         charting::ChartPainter(painter, drawing.look, deviceScale)
             .paint(drawing.chart, drawing.layout);

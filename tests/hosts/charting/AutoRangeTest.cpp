@@ -1,4 +1,5 @@
 #include "hosts/charting/AutoRange.h"
+#include "hosts/charting/Decimal.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,7 @@ TEST(AutoRangeTest, HoldsTheDataWithRoomOnBothSidesAndWastesLittle)
         ASSERT_LE(division.to() - division.from, 2.0 * size) << low << " to " << high;
         ASSERT_NEAR((division.from + division.to()) / 2.0, (low + high) / 2.0,
                     (isFixed ? 0.051 * division.step : 1e-6 * size));
-        ASSERT_DOUBLE_EQ(division.step, AxisDivision::roundStep(division.step));
+        ASSERT_DOUBLE_EQ(division.step, roundedUp(division.step));
         const double tenth = isFixed ? division.step / 10.0 : 1e-12 * size;
         ASSERT_NEAR(std::remainder(division.from, tenth), 0.0, 1e-9 * size);
     }

@@ -13,7 +13,7 @@ namespace {
 QVector<double> majorPlaces(const AxisDivision& division)
 {
     QVector<double> places;
-    for (const TickMark& mark : AxisView(division, QString()).marks()) {
+    for (const TickMark& mark : AxisView(division.shown(), QString()).marks()) {
         if (mark.major)
             places.append(mark.place);
     }
@@ -52,7 +52,7 @@ TEST(AxisDivisionTest, AnyRangeIsShownExactlyWithATickOnEveryMultipleOfTheStep)
         const double from = whole(random) * unit;
         const double to = from + (1 + std::abs(whole(random))) * unit;
         const AxisDivision division = AxisDivision::of(from, to, 10, TickPlaces::Moving);
-        const AxisView view(division, QString());
+        const AxisView view(division.shown(), QString());
         ASSERT_NEAR(view.from(), from, 1e-8 * division.step);
         ASSERT_NEAR(view.to(), to, 1e-8 * division.step);
         ASSERT_LE(division.visible, 1.0);
@@ -80,7 +80,7 @@ TEST(AxisDivisionTest, FixedPlacesDivideTheRangeEvenly)
     for (const auto& c : cases) {
         const AxisDivision division = AxisDivision::of(c.from, c.to, c.wanted, TickPlaces::Fixed);
         EXPECT_NEAR(division.step, c.step, 1e-12 * c.step);
-        EXPECT_DOUBLE_EQ(AxisView(division, QString()).to(), c.to);
+        EXPECT_DOUBLE_EQ(AxisView(division.shown(), QString()).to(), c.to);
         const QVector<double> places = majorPlaces(division);
         ASSERT_EQ(places.size(), c.ticks) << c.from << " to " << c.to;
         for (int i = 0; i < c.ticks; ++i)

@@ -1,4 +1,7 @@
 #include "hosts/charting/AxisView.h"
+#include "hosts/charting/AxisDivision.h"
+#include "hosts/charting/BipolarAxis.h"
+#include "hosts/charting/LogRange.h"
 
 #include <kestrane/backend/Singleton.h>
 #include <kestrane/backend/TranslationManager.h>
@@ -13,16 +16,17 @@ namespace hosts::charting {
 namespace {
 
 // The labels from left to right.
-std::string labels(const AxisDivision& division, const char* quantity, double reference)
+std::string labels(const ShownAxis& shown, const char* quantity, double reference = std::nan(""))
 {
     using namespace pelorin::utilities;
     Singleton<TranslationManager>::instance().setLocale(QStringLiteral("C"));
-    QVector<TickMark> marks = AxisView(division, QLatin1String(quantity), reference).marks();
+    QVector<TickMark> marks = AxisView(shown, QLatin1String(quantity), reference).marks();
     std::sort(marks.begin(), marks.end(),
               [](const TickMark& a, const TickMark& b) { return a.place < b.place; });
     QStringList lines;
     for (const TickMark& mark : marks)
-        lines += mark.label;
+        if (!mark.label.isEmpty())
+            lines += mark.label.join(QLatin1Char('/'));
     return lines.join(QLatin1Char('|')).toStdString();
 }
 
@@ -48,14 +52,44 @@ TEST(AxisViewTest, LabelsOfAnAxisShareAPrefixAndHaveTheDigitsThatTheirStepNeeds)
     };
     for (const auto& c : cases) {
         const AxisDivision division = AxisDivision::of(c.from, c.to, c.wanted, TickPlaces::Moving);
-        EXPECT_EQ(labels(division, c.quantity, c.reference), c.labels);
+        EXPECT_EQ(labels(division.shown(), c.quantity, c.reference), c.labels);
     }
+}
+
+TEST(AxisViewTest, DecadesHaveOneDigitEachAPrefixOfItsOwnAndNoTickBeyondTheLimits)
+{
+    const struct
+    {
+        double from, to;
+        const char *quantity, *labels;
+    } cases[] = {
+        {0.5, 30.0, "", "0.5|0.6|0.7|0.8|0.9|1|2|3|4|5|6|7|8|9|10|20|30"},
+        {0.002, 0.005, "", "0.002|0.003|0.004|0.005"},
+        {3.0, 8.5, "", "3|4|5|6|7|8"},
+        {6e-7, 1e-6, "", "6×10⁻⁷|7×10⁻⁷|8×10⁻⁷|9×10⁻⁷|1×10⁻⁶"},
+        {5e5, 2e6, "", "5×10⁵|6×10⁵|7×10⁵|8×10⁵|9×10⁵|1×10⁶|2×10⁶"},
+        {700.0, 3000.0, "frequency", "700 Hz|800 Hz|900 Hz|1 kHz|2 kHz|3 kHz"},
+        {700.0, 3000.0, "time", "700 s|800 s|900 s|1000 s|2000 s|3000 s"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(labels(LogRange{c.from, c.to}.shown(), c.quantity), c.labels);
+}
+
+TEST(AxisViewTest, TheJointOfABipolarAxisHasTwoLinesAndAsManyDigitsAsItsValue)
+{
+    const auto bipolar = [](double joint, double outer) {
+        return ShownAxis{QSharedPointer<BipolarAxis>::create(joint, outer)};
+    };
+    EXPECT_EQ(labels(bipolar(0.25, 0.4), "voltage"),
+              "-400 mV|-300 mV|250 mV/-250 mV|300 mV|400 mV");
+    const std::string decade = labels(bipolar(1.0, 2.0), ""); // Those of 1 and -1 come after it.
+    EXPECT_NE(decade.find("|1/-1|"), std::string::npos) << decade;
 }
 
 TEST(AxisViewTest, MajorTicksComeFirstAndOnlyTheyHaveLabels)
 {
     const QVector<TickMark> marks =
-        AxisView(AxisDivision::of(0.0, 10.0, 5, TickPlaces::Moving), QString()).marks();
+        AxisView(AxisDivision::of(0.0, 10.0, 5, TickPlaces::Moving).shown(), QString()).marks();
     ASSERT_EQ(marks.size(), 6 + 5 * 3);
     for (int i = 0; i < marks.size(); ++i) {
         EXPECT_EQ(marks[i].major, i < 6);

@@ -1,4 +1,5 @@
 #include "hosts/charting/ChartPainter.h"
+#include "hosts/charting/AxisDivision.h"
 
 #include <QImage>
 #include <QSet>
@@ -13,7 +14,8 @@ namespace {
 
 Chart chartOf(const QVector<QVector<QPointF>>& polylines, int divisions = 4)
 {
-    const AxisView axis(AxisDivision::of(0.0, 1.0, divisions, TickPlaces::Moving), QString());
+    const AxisView axis(AxisDivision::of(0.0, 1.0, divisions, TickPlaces::Moving).shown(),
+                        QString());
     ChartTexts texts;
     texts.xMarks = axis.marks();
     texts.yMarks = axis.marks();
@@ -53,7 +55,7 @@ struct Picture
 
 TEST(ChartPainterTest, ACurveIsDrawnWhereItsPointsLieAndNowhereElse)
 {
-    const AxisView axis(AxisDivision::of(0.0, 1.0, 4, TickPlaces::Moving), QString());
+    const AxisView axis(AxisDivision::of(0.0, 1.0, 4, TickPlaces::Moving).shown(), QString());
     const double half = 0.5 * axis.visible();
     const Picture picture(chartOf({{{-1.0, half}, {half, half}, {half, qQNaN()}, {half, -7.0}}}),
                           1.0);

@@ -22,7 +22,7 @@ class KestraneChartErrorsTest : public testing::Test
 protected:
     void SetUp() override
     {
-        chart.write("in.csv", "time,a,b\n0,1,4\n1,2,5\n2,3,\n3,4,\n4,5,5\n");
+        chart.write("in.csv", "time,a,b,flat\n0,1,4,7\n1,2,5,7\n2,3,,7\n3,4,,7\n4,5,5,7\n");
         chart.write("empty.csv", QByteArray());
         chart.write("rubbish.csv", QByteArray("\x00\x01\xff\xfe", 4).repeated(100));
         chart.write("text.csv", "a,b\nx,y\nz,w\n");
@@ -70,10 +70,22 @@ TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
         {"in.csv -o out.png --from 1 --to 1.0000000000001", 2, "too narrow"},
         {"in.csv -o out.png --step 0", 2, "--step: must be greater than 0"},
         {"in.csv -o out.png --symbols -1", 2, "--symbols"},
+        {"in.csv -o out.png --y-axis lg", 2, "--y-axis: lg not in"},
+        {"in.csv -o out.png --x-joint 1", 2, "--x-joint: only a bipolar axis"},
+        {"in.csv -o out.png --y-axis log --y-joint 1", 2, "--y-joint: only a bipolar axis"},
+        {"in.csv -o out.png --y-axis log --y-relative 1", 2, "--y-relative: there are no"},
+        {"in.csv -o out.png --y-axis log --bottom 0", 2, "--bottom 0: a log axis shows only"},
+        {"in.csv -o out.png --y-axis log --bottom 3.1 --top 3.9", 2, "too narrow or too wide"},
+        {"in.csv -o out.png --y-axis log --bottom 5 --top 1", 2, "the range is empty"},
+        {"in.csv -o out.png --y-axis bipolar --y-joint 0", 2, "--y-joint 0: the joint must be"},
+        {"in.csv -o out.png --y-axis bipolar --bottom -3 --top 5", 2, "as far below 0 as above"},
+        {"in.csv -o out.png --y-axis bipolar --bottom 3", 2, "as far below 0 as above"},
+        {"in.csv -o out.png --y-axis bipolar --y-joint 5 --top 5", 2, "must lie beyond the joint"},
         {"in.csv -o out.png --channel 0", 2, "--channel 0"},
         {"in.csv -o out.png --x-quantity tme", 2, "unknown quantity 'tme'; there are"},
         {"in.csv -o out.png --x-unit s --x-quantity time", 2, "--x-quantity excludes --x-unit"},
-        {"in.csv -o out.png --legend 1 --legend 2 --legend 3", 2, "3 names, but only 2 to draw"},
+        {"in.csv -o out.png --legend 1 --legend 2 --legend 3 --legend 4", 2,
+         "4 names, but only 3 to draw"},
         {"out.png -o out.png", 2, "out.png: would be overwritten by the picture"},
         {"in.csv -o ./folder/../a\nb\x01.gif", 2, "a?b?.gif: the name must end"},
         {"none.csv -o out.png", 1, "none.csv: there is no such file"},
@@ -86,9 +98,16 @@ TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
         {"in.csv -o out.png --column c", 1, "in.csv: "},
         {"in.csv -o out.png --from 100 --to 200", 1,
          "--from 100 --to 200: the data go from 0 to 4"},
-        {"in.csv -o out.png --bottom 50", 1, "--bottom 50: the data go from 1 to 5"},
+        {"in.csv -o out.png --bottom 50", 1, "--bottom 50: the data go from 1 to 7"},
         {"in.csv -o out.png --column b --from 1.5 --to 3.5", 1,
          "--from 1.5 --to 3.5: a gap in the data"},
+        {"in.csv -o out.png --x-axis log --from 9", 1, "--from 9: the data go from 1 to 4"},
+        {"in.csv -o out.png --x-axis log --start -9", 1, "no sample has an x above 0"},
+        {"in.csv -o out.png --y-axis log --bottom 50", 1, "--bottom 50: the data go from 1 to 7"},
+        {"in.csv -o out.png --y-axis bipolar --y-joint 50", 1, "--y-joint 50: the data go from"},
+        {"in.csv -o out.png --start 5 --x-axis bipolar --to 4", 1, "--to 4: the data go from 5"},
+        {"in.csv -o out.png --show slope --y-axis log --column flat", 1, "no value is above 0"},
+        {"in.csv -o out.png --show spectrum --column b", 1, "b: a spectrum needs four samples"},
         {"far.csv -o out.png", 1, "too far apart to draw"},
         {"in.csv -o folder.png", 1, "folder.png: is there and is no file"},
         {"in.csv -o none/out.png", 1, "none: there is no such folder"},

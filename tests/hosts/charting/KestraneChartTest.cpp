@@ -8,6 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+
 namespace hosts::charting {
 
 namespace {
@@ -133,10 +136,41 @@ TEST(KestraneChartTest, DrawsOddDataWithoutComplaint)
                                    {"3", "", "nan", "inf", "4"}};
     for (const QStringList& column : columns) {
         chart.writeColumn("in.csv", column);
-        for (const char* const ticks : {"moving", "fixed"}) {
-            EXPECT_EQ(chart.run({"in.csv", "-o", "out.png", "--ticks", ticks}), 0)
+        for (const char* const kind : {"linear", "fixed", "log", "bipolar"}) {
+            const bool isRefused = column == QStringList("0") && kind == QString("log");
+            EXPECT_EQ(chart.run({"in.csv", "-o", "out.png", "--y-axis", kind}), isRefused ? 1 : 0)
                 << column.join(' ').toStdString() << ": " << chart.errors().toStdString();
             EXPECT_EQ(QImage(chart.path("out.png")).size(), QSize(1000, 600));
+        }
+    }
+}
+
+TEST(KestraneChartTest, DrawsValuesAtTheHeightOfTheirLogarithmAndALineOutThroughTheBottom)
+{
+    ChartRun chart;
+    chart.writeColumn("in.csv", repeated("100", 300) + repeated("0", 300) + repeated("-10", 300));
+    constexpr double top = 24.0; // Of the plot, in pixels at 192 dpi.
+    constexpr double height = 1114.0;
+    const struct
+    {
+        const char *kind, *lowest;
+        double places[3]; ///< In the middle of each third, as shares of the height; NaN for none.
+        bool reachesBottom;
+    } cases[] = {{"log", "--bottom", {1 / 3.0, qQNaN(), qQNaN()}, true},
+                 {"bipolar", "--y-joint", {1 / 6.0, 0.5, 4 / 6.0}, false}};
+    for (const auto& c : cases) {
+        ASSERT_EQ(chart.run({"in.csv", "-o", "out.png", "--dpi", "192", "--y-axis", c.kind, "--top",
+                             "1000", c.lowest, "1"}),
+                  0);
+        const QImage image(chart.path("out.png"));
+        int lowest = 0;
+        for (int x = 200; x < 1900; ++x)
+            lowest = std::max(lowest, rowsOfCurve(image, x).second);
+        EXPECT_EQ(lowest > top + height - 6.0, c.reachesBottom) << c.kind << ' ' << lowest;
+        for (int i = 0; i < 3; ++i) {
+            const int row = rowsOfCurve(image, 400 + 600 * i).first;
+            const double expected = top + c.places[i] * height;
+            EXPECT_NEAR(row, std::isnan(expected) ? -1.0 : expected, 5.0) << c.kind << ' ' << i;
         }
     }
 }

@@ -1,0 +1,19 @@
+#ifndef HOSTS_CHARTING_SHOWNAXIS_H
+#define HOSTS_CHARTING_SHOWNAXIS_H
+
+#include <kestrane/axes/Axis.h>
+
+#include <QSharedPointer>
+
+namespace hosts::charting {
+
+/// An axis of any kind and the part of it that a chart shows: from position 0.0 on.
+struct ShownAxis
+{
+    QSharedPointer<pelorin::ui::chart::Axis> axis;
+    double visible = 1.0; ///< The axis position at the end of the plot.
+};
+
+} // namespace hosts::charting
+
+#endif

@@ -1,0 +1,41 @@
+#include "hosts/kestrane-chart/AxisOptions.h"
+
+#include "hosts/kestrane-chart/Extent.h"
+
+#include <QStringList>
+
+namespace hosts::chart {
+
+namespace {
+
+void append(QStringList& parts, const QString& name, const std::optional<double>& value)
+{
+    if (value)
+        parts << name << QString::number(*value, 'g', 15);
+}
+
+} // namespace
+
+QString AxisOptions::optionName(const char* option) const
+{
+    return QStringLiteral("--%1-%2").arg(name, QLatin1String(option));
+}
+
+QString AxisOptions::rangeText() const
+{
+    QStringList parts;
+    append(parts, fromName, from);
+    append(parts, toName, to);
+    append(parts, optionName("joint"), joint);
+    return parts.isEmpty() ? QStringLiteral("%1 axis").arg(name) : parts.join(QLatin1Char(' '));
+}
+
+QString AxisOptions::outsideText(const Extent& data) const
+{
+    return QStringLiteral("%1: the data go from %2 to %3")
+        .arg(rangeText())
+        .arg(data.low, 0, 'g', 10)
+        .arg(data.high, 0, 'g', 10);
+}
+
+} // namespace hosts::chart

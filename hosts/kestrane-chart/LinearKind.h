@@ -1,0 +1,30 @@
+#ifndef HOSTS_KESTRANE_CHART_LINEARKIND_H
+#define HOSTS_KESTRANE_CHART_LINEARKIND_H
+
+#include "hosts/charting/AxisDivision.h"
+#include "hosts/kestrane-chart/AxisKind.h"
+
+namespace hosts::chart {
+
+/// Linear axes. Their range ends on a tick for abscissas, and leaves some room for values.
+class LinearKind : public AxisKind
+{
+public:
+    explicit LinearKind(charting::TickPlaces places)
+        : m_places(places)
+    {}
+
+    void check(const AxisOptions& axis) const override;
+    Extent::Measure measure() const override;
+    charting::ShownAxis forAbscissas(const AxisOptions& axis, const std::optional<Extent>& data,
+                                     int wanted) const override;
+    charting::ShownAxis forValues(const AxisOptions& axis, const std::optional<Extent>& data,
+                                  const Curves& curves, int wanted) const override;
+
+private:
+    charting::TickPlaces m_places;
+};
+
+} // namespace hosts::chart
+
+#endif
