@@ -53,11 +53,6 @@ LogRange LogRange::inDecades() const
     return to / from < manyDecades ? *this : LogRange{decadeBelow(from), decadeAbove(to)};
 }
 
-LogRange LogRange::reaching(double high) const
-{
-    return {from, high > to ? roundedUp(high) : to};
-}
-
 ShownAxis LogRange::shown() const
 {
     return {QSharedPointer<LogAxis>::create(from * (1.0 - roundingAllowance),

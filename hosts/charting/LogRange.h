@@ -22,9 +22,6 @@ struct LogRange
     /// Widened to powers of ten, if it spans enough of them for that to make no odds.
     LogRange inDecades() const;
 
-    /// Raised, if need be, to 1, 2 or 5 times a power of ten that holds @p high.
-    LogRange reaching(double high) const;
-
     /// The axis, with a tick at either end if the limit is the value of one.
     ShownAxis shown() const;
 };

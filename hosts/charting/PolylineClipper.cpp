@@ -40,11 +40,6 @@ std::optional<Share> shareInside(const QPointF& a, const QPointF& b, const QRect
     return std::nullopt;
 }
 
-bool isFinite(const QPointF& point)
-{
-    return std::isfinite(point.x()) && std::isfinite(point.y());
-}
-
 // Beyond this a coordinate is far outside any picture, and differences could overflow.
 QPointF tamed(const QPointF& point)
 {
@@ -67,7 +62,7 @@ QVector<QVector<QPointF>> clipPolyline(const QVector<QPointF>& points, const QRe
     std::optional<QPointF> previous;
     bool previousInside = false;
     for (const QPointF& raw : points) {
-        if (!isFinite(raw))
+        if (std::isnan(raw.x()) || std::isnan(raw.y()))
             continue;
         const QPointF point = tamed(raw);
         const std::optional<Share> share =

@@ -43,13 +43,6 @@ LogRange rangeFor(const AxisOptions& axis, const Extent& data)
     return {axis.joint.value_or(joint), outer};
 }
 
-ShownAxis axisFor(const LogRange& range, const AxisOptions& axis, const Extent& data)
-{
-    if (!range.isUsable())
-        throw WorkError(axis.outsideText(data));
-    return {QSharedPointer<BipolarAxis>::create(range.from, range.to)};
-}
-
 } // namespace
 
 void BipolarKind::check(const AxisOptions& axis) const
@@ -80,19 +73,16 @@ ShownAxis BipolarKind::forAbscissas(const AxisOptions& axis, const std::optional
     const Extent extent = data.value_or(zeros);
     if (outerLimit(axis).value_or(extent.low) < extent.low)
         throw WorkError(axis.outsideText(extent));
-    return axisFor(rangeFor(axis, extent), axis, extent);
+    const LogRange range = rangeFor(axis, extent);
+    if (!range.isUsable())
+        throw WorkError(axis.outsideText(extent));
+    return {QSharedPointer<BipolarAxis>::create(range.from, range.to)};
 }
 
 ShownAxis BipolarKind::forValues(const AxisOptions& axis, const std::optional<Extent>& data,
-                                 const Curves& curves, int) const
+                                 const Curves&, int wanted) const
 {
-    const Extent extent = data.value_or(zeros);
-    const LogRange range = rangeFor(axis, extent);
-    const ShownAxis first = axisFor(range, axis, extent);
-    if (outerLimit(axis))
-        return first;
-    const Extent seen = curves(first);
-    return axisFor(range.reaching(std::max(seen.high, -seen.low)), axis, extent);
+    return forAbscissas(axis, data, wanted);
 }
 
 } // namespace hosts::chart

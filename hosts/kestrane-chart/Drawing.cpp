@@ -1,9 +1,9 @@
 #include "hosts/kestrane-chart/Drawing.h"
 
 #include "hosts/charting/FontMeasure.h"
+#include "hosts/charting/StraightLines.h"
 #include "hosts/kestrane-chart/AxisKind.h"
 #include "hosts/kestrane-chart/Extent.h"
-#include "hosts/kestrane-chart/PlacedSamples.h"
 #include "hosts/kestrane-chart/UsageError.h"
 #include "hosts/kestrane-chart/WorkError.h"
 
@@ -24,6 +24,7 @@ using charting::ChartTexts;
 using charting::Curve;
 using charting::Look;
 using charting::ShownAxis;
+using charting::StraightLines;
 using data::Series;
 using pelorin::backend::PlotSegment;
 using pelorin::backend::PlotSnapshot;
@@ -112,10 +113,9 @@ Curve curveOf(const Series& series, const AxisView& x, const AxisView& y, double
 {
     const double columnWidth = x.visible() / (plotWidth * options.deviceScale());
     const double symbolColumns = options.symbolSpacing * options.deviceScale();
-    PlacedSamples samples = PlacedSamples::of(series.snapshot, y.axis());
     SamplePlotAlgorithm algorithm;
-    algorithm.setSnapshot(std::move(samples.snapshot));
-    auto segments = algorithm.createSegments(x.axis(), samples.yAxis, columnWidth, symbolColumns);
+    algorithm.setSnapshot(StraightLines::whereTheySuit(series.snapshot, y.axis()));
+    auto segments = algorithm.createSegments(x.axis(), y.axis(), columnWidth, symbolColumns);
     for (QVector<QPointF>& symbols : segments.second)
         symbols = uncrowded(symbols, symbolColumns * columnWidth);
     return {segments.first, segments.second, loneSamples(series, x, y, columnWidth)};

@@ -66,13 +66,12 @@ ShownAxis LogKind::forAbscissas(const AxisOptions& axis, const std::optional<Ext
 }
 
 ShownAxis LogKind::forValues(const AxisOptions& axis, const std::optional<Extent>& data,
-                             const Curves& curves, int) const
+                             const Curves&, int) const
 {
     if (!data)
         throw WorkError(QStringLiteral("no value is above 0, so there can be no log axis"));
     const double low = std::max(data->low, data->high * leastShare);
-    const LogRange range = LogRange::around(low, data->high).inDecades();
-    return axisFor(axis, range.reaching(curves(range.shown()).high), *data);
+    return axisFor(axis, LogRange::around(low, data->high).inDecades(), *data);
 }
 
 } // namespace hosts::chart

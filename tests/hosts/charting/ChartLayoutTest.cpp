@@ -84,6 +84,18 @@ TEST(ChartLayoutTest, TheLabelOfHigherRankStays)
     EXPECT_EQ(labels(layout), "number   0|number   8|number  16|number   4|number  12|number  20");
 }
 
+TEST(ChartLayoutTest, LabelsOfMinorTicksAreCalmWhereMajorOnesSuffice)
+{
+    ChartTexts texts;
+    texts.yMarks = {mark(0.0, QStringLiteral("1")), mark(0.4, QStringLiteral("10")),
+                    mark(0.2, QStringLiteral("3"), false), mark(0.25, QStringLiteral("4"), false),
+                    mark(0.36, QStringLiteral("8"), false)};
+    const QSizeF size(300, 400);
+    EXPECT_EQ(labels(ChartLayout::of(size, texts, typewriter)), "1|10|3");
+    texts.yMarks.removeAt(1);
+    EXPECT_EQ(labels(ChartLayout::of(size, texts, typewriter)), "1|3|4|8");
+}
+
 TEST(ChartLayoutTest, LabelsAtBothEndsOfBothAxesFindRoom)
 {
     ChartTexts texts;

@@ -21,11 +21,21 @@ TEST(PolylineClipperTest, KeepsWhatLiesInsideAndCutsAtTheBorder)
         {{{5, 5}, {5, 15}, {7, 15}, {7, 5}}, {{{5, 5}, {5, 10}}, {{7, 10}, {7, 5}}}},
         {{{-1, -1}, {-1, 11}, {11, 11}}, {}},
         {{{0, 0}, {10, 0}, {10, 10}}, {{{0, 0}, {10, 0}, {10, 10}}}},
-        {{{1, 1}, {qQNaN(), 2}, {3, qInf()}, {4, 4}}, {{{1, 1}, {4, 4}}}},
+        {{{1, 1}, {qQNaN(), 2}, {3, qQNaN()}, {4, 4}}, {{{1, 1}, {4, 4}}}},
         {{{3, 3}}, {}},
         {{}, {}}};
     for (const auto& [points, pieces] : cases)
         EXPECT_EQ(clipPolyline(points, bounds), pieces);
+}
+
+TEST(PolylineClipperTest, ALineToInfinityLeavesAndComesBackUpright)
+{
+    const Lines pieces = clipPolyline({{1, 1}, {3, qInf()}, {4, 4}}, bounds);
+    ASSERT_EQ(pieces.size(), 2);
+    EXPECT_NEAR(pieces[0].last().x(), 1.0, 1e-6);
+    EXPECT_NEAR(pieces[1].first().x(), 4.0, 1e-6);
+    EXPECT_EQ(pieces[0].last().y(), 10.0);
+    EXPECT_EQ(pieces[1].first().y(), 10.0);
 }
 
 TEST(PolylineClipperTest, NoPieceLeavesTheBounds)
