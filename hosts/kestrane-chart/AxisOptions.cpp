@@ -27,15 +27,16 @@ QString AxisOptions::rangeText() const
     append(parts, fromName, from);
     append(parts, toName, to);
     append(parts, optionName("joint"), joint);
-    return parts.isEmpty() ? QStringLiteral("%1 axis").arg(name) : parts.join(QLatin1Char(' '));
+    return parts.join(QLatin1Char(' '));
 }
 
 QString AxisOptions::outsideText(const Extent& data) const
 {
-    return QStringLiteral("%1: the data go from %2 to %3")
-        .arg(rangeText())
-        .arg(data.low, 0, 'g', 10)
-        .arg(data.high, 0, 'g', 10);
+    const QString range = rangeText();
+    return (range.isEmpty() ? QStringLiteral("too far for an axis for %1").arg(name) : range) +
+           QStringLiteral(": the data go from %1 to %2")
+               .arg(data.low, 0, 'g', 10)
+               .arg(data.high, 0, 'g', 10);
 }
 
 } // namespace hosts::chart

@@ -18,8 +18,6 @@ using charting::ShownAxis;
 namespace {
 
 constexpr double leastShare = 1e-6; // Of the outer limit.
-constexpr Extent zeros = {0.1,
-                          1.0}; // Stands for data that have no magnitude; they lie on the joint.
 
 double magnitude(double value)
 {
@@ -29,6 +27,13 @@ double magnitude(double value)
 std::optional<double> outerLimit(const AxisOptions& axis)
 {
     return axis.to ? axis.to : axis.from ? std::optional(-*axis.from) : std::nullopt;
+}
+
+// What data without a magnitude are taken for: they lie on the joint, wherever that is.
+Extent decadeThatFits(const AxisOptions& axis)
+{
+    const double high = outerLimit(axis).value_or(axis.joint.value_or(0.1) * 10.0);
+    return {axis.joint.value_or(high / 10.0), high};
 }
 
 // The joint and the outer limit.
@@ -70,7 +75,7 @@ Extent::Measure BipolarKind::measure() const
 ShownAxis BipolarKind::forAbscissas(const AxisOptions& axis, const std::optional<Extent>& data,
                                     int) const
 {
-    const Extent extent = data.value_or(zeros);
+    const Extent extent = data.value_or(decadeThatFits(axis));
     if (outerLimit(axis).value_or(extent.low) < extent.low)
         throw WorkError(axis.outsideText(extent));
     const LogRange range = rangeFor(axis, extent);
