@@ -1,12 +1,33 @@
 #include "kestrane/plots/SamplePlotAlgorithm.h"
 
+#include "kestrane/plots/detail/SegmentCurve.h"
 #include "kestrane/plots/detail/SegmentWalk.h"
 
 #include <QMutexLocker>
 
+#include <cmath>
+
 namespace pelorin {
 namespace ui {
 namespace chart {
+
+namespace {
+
+void appendIntersection(QList<Intersection>& list, const backend::PlotSegment& segment,
+                        const Axis& xAxis, const Axis& yAxis, double position)
+{
+    const double x = xAxis.inverseTransform(segment.xInfo.scaleMode, position);
+    const detail::SegmentCurve curve(segment);
+    const double index = (x - segment.xInfo.offset) / segment.xInfo.scale;
+    if (!(index >= 0.0 && static_cast<double>(segment.count - 1) > index))
+        return;
+    const double value = curve[index];
+    const double y = yAxis.transform(segment.yScaleMode, value);
+    if (std::isfinite(y) && std::isfinite(value))
+        list.append(Intersection(y, value));
+}
+
+} // namespace
 
 SamplePlotAlgorithm::SamplePlotAlgorithm() = default;
 
@@ -43,6 +64,18 @@ SamplePlotAlgorithm::createSegments(const QSharedPointer<const Axis>& xAxis,
         if (!plot.symbols.isEmpty())
             result.second.append(std::move(plot.symbols));
     }
+    return result;
+}
+
+QList<Intersection> SamplePlotAlgorithm::doIntersect(const Axis* xAxis, const Axis* yAxis,
+                                                     double position) const
+{
+    QList<Intersection> result;
+    const QMutexLocker locker(&m_mutex);
+    if (!xAxis || !yAxis)
+        return result;
+    for (const backend::PlotSegment& segment : m_snapshot.segments)
+        appendIntersection(result, segment, *xAxis, *yAxis, position);
     return result;
 }
 

@@ -4,8 +4,10 @@
 #include "kestrane/axes/Axis.h"
 #include "kestrane/backend/PlotSnapshot.h"
 #include "kestrane/library/Export.h"
+#include "kestrane/plots/Intersection.h"
 #include "kestrane/plots/PointsBasedPlotHelper.h"
 
+#include <QList>
 #include <QMutex>
 #include <QPointF>
 #include <QSharedPointer>
@@ -64,6 +66,17 @@ public:
     std::pair<QVector<QVector<QPointF>>, QVector<QVector<QPointF>>>
     createSegments(const QSharedPointer<const Axis>& xAxis, const QSharedPointer<const Axis>& yAxis,
                    double columnWidth, double symbolSpacing);
+
+    /// Where the plot crosses the vertical line at @p position, in axis space of @p xAxis: the
+    /// spline at that place, from the first sample of a segment up to, not including, the last.
+    ///
+    /// O(segments), and once O(samples) a segment for its spline.
+    ///
+    /// @return at most one crossing a segment, in order of the segments, with its place on
+    ///         @p yAxis. A segment that the line misses has none, nor has one whose value or
+    ///         place isn't finite. Empty for a null axis and for a NaN position.
+    /// @throws what a subsampler of the snapshot or an axis throws, and nothing of its own
+    QList<Intersection> doIntersect(const Axis* xAxis, const Axis* yAxis, double position) const;
 
 private:
     mutable QMutex m_mutex; // Guards m_snapshot, the subsamplers in it included.

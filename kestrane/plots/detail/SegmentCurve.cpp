@@ -26,6 +26,11 @@ std::optional<double> SegmentCurve::at(double index) const
 {
     if (m_ownSpline && !m_ownSpline->covers(index))
         return std::nullopt;
+    return (*this)[index];
+}
+
+double SegmentCurve::operator[](double index) const
+{
     return (*m_subsampler)[index];
 }
 

@@ -23,6 +23,9 @@ public:
     /// through.
     std::optional<double> at(double index) const;
 
+    /// The value at a fractional sample index, or whatever the subsampler throws.
+    double operator[](double index) const;
+
 private:
     using Spline = algo::SplineAlgorithm<backend::SampleIterator>;
 
