@@ -110,8 +110,9 @@ TEST_F(RegistryListTest, ARegistrationLastsAsLongAsWhoeverHoldsIt)
     EXPECT_EQ(fired(), "eba");
     drop("b");
     EXPECT_EQ(fired(), "eba") << "what has been moved from holds nothing";
-    EXPECT_EQ(logOf([&] { second = Registration(); }), "-b~b");
-    EXPECT_EQ(fired(), "ea");
+    at("-b", [&] { second = Registration(); }); // It holds "a" already.
+    EXPECT_EQ(logOf([&] { second = std::move(m_registrations["a"]); }), "-b-a~a~b");
+    EXPECT_EQ(fired(), "e");
 }
 
 TEST_F(RegistryListTest, ChangesDuringAPassCountFromTheNextOne)
