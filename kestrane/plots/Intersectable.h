@@ -41,8 +41,8 @@ protected:
     /// and drop meanwhile counts from the next call on. A callback may call this again, and it may
     /// destroy this object if no callback comes behind it.
     ///
-    /// Waits for a thread that carries out changes of the list, never for another one that fires.
-    /// O(callbacks), plus the changes that are queued meanwhile.
+    /// While changes are queued, it waits for them and for the passes of other threads that hold
+    /// them up. O(callbacks), plus the changes that are queued meanwhile.
     ///
     /// @throws boost::bad_function_call for an empty callback, and what a callback throws; either
     ///         way the callbacks behind it are not called, and the list is free again

@@ -17,18 +17,19 @@ namespace utilities {
 ///
 /// What this means for a callback:
 ///  1. It is called by every pass that begins after add() has returned and ends before its
-///     Registration begins to die, and by none that begins after the Registration has died. That
-///     doesn't hold for a pass inside another one of the same thread, which shows the same
-///     callbacks as the one around it.
+///     Registration begins to die, and by none that begins after the Registration has died. A pass
+///     that the same thread begins inside another one, or inside a hook, calls what was in the
+///     list there.
 ///  2. A pass calls in the order of registration, and it calls all that were in the list when it
 ///     began: one that is added during the pass has to wait for the next one, and one that is
 ///     dropped during the pass is still called if its turn comes later.
 ///  3. A callback that is dropped on one thread may still be running, or be called once more, on
 ///     another thread. Who drops one must not destroy right away what it uses: let the callback
-///     own that, by a shared or weak pointer. Two threads may run one callback at the same time.
+///     own that. Two threads may run one callback at the same time.
 ///  4. Each call of add() is a registration of its own, also with an equal callback.
 ///  5. Registrations and the list may die in either order, on any threads. What is dropped after
-///     the death of the list has no effect.
+///     the death of the list has no effect. A callback must not own the list, which would have to
+///     wait for itself when both die: let it hold a weak pointer to its plot.
 ///
 /// A derived list may override itemAdded() and itemRemoved(). They are called when changes have
 /// been carried out, one at a time, oldest first, on the thread that carried them out. They, and
@@ -39,7 +40,8 @@ namespace utilities {
 /// A thread in a callback, a hook or such a destructor must not wait for another one that begins a
 /// pass.
 ///
-/// add() costs O(1), the end of a registration O(callbacks).
+/// add() costs O(1), the end of a registration O(callbacks). That end takes a little memory; if
+/// there is none the program terminates, rather than that a dropped callback is called for ever.
 ///
 /// Instantiated for the callbacks of ui::chart::Intersectable.
 template<typename T>
@@ -52,7 +54,7 @@ public:
     ~RegistryList() override;
 
     /// Registers a copy of @p item, made before this returns, behind all the others.
-    /// @return what the registration lasts as long as
+    /// @return the handle with which the registration ends
     /// @throws std::bad_alloc and what copying the item throws; then nothing is registered
     Registration add(const T& item) override;
 

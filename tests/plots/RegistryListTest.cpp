@@ -165,19 +165,13 @@ TEST_F(RegistryListTest, AnExceptionOfAHookIsReportedAndNoChangeTwice)
     static int warnings;
     const auto previous = qInstallMessageHandler(
         [](QtMsgType, const QMessageLogContext&, const QString&) { ++warnings; });
+    warnings = 0;
     at("+a", [] { throw 1; });
     add("a");
     qInstallMessageHandler(previous);
     EXPECT_EQ(warnings, 1);
     EXPECT_EQ(logOf([this] { add("b"); }), "+b");
     EXPECT_EQ(fired(), "ab");
-}
-
-TEST_F(RegistryListTest, AListWithoutHooksTakesTheSameCalls)
-{
-    RegistryList<Callback> plain;
-    m_registrations["a"] = plain.add(callback("a"));
-    EXPECT_EQ(logOf([this] { drop("a"); }), "~a");
 }
 
 TEST_F(RegistryListTest, RegistrationsMayOutliveTheList)
@@ -208,5 +202,6 @@ TEST_F(RegistryListTest, AnItemThatCannotBeCopiedIsNotRegistered)
     const Callback callback = Uncopyable();
     mayCopy = false;
     EXPECT_THROW(m_list->add(callback), std::bad_alloc);
+    mayCopy = true;
     EXPECT_EQ(fired(), "");
 }
