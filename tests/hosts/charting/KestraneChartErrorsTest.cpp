@@ -102,6 +102,7 @@ TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
         {"in.csv -o out.png --column b --from 1.5 --to 3.5", 1,
          "--from 1.5 --to 3.5: a gap in the data"},
         {"in.csv -o out.png --x-axis log --from 9", 1, "--from 9: the data go from 1 to 4"},
+        {"in.csv -o out.png --x-axis log --start -1.5 --to 0.4", 1, "the data go from 0.5 to 2.5"},
         {"in.csv -o out.png --x-axis log --start -9", 1, "no sample has an x above 0"},
         {"in.csv -o out.png --y-axis log --bottom 50", 1, "--bottom 50: the data go from 1 to 7"},
         {"in.csv -o out.png --y-axis bipolar --y-joint 50", 1, "--y-joint 50: the data go from"},

@@ -96,11 +96,24 @@ TEST(KestraneChartTest, MarksTheSamplesWhenTheyAreFarEnoughApart)
     chart.writeColumn("in.csv", repeated("1", 300) + repeated("2", 300));
     const QRegularExpression symbol(QStringLiteral("<(circle|ellipse) "));
     const std::pair<QStringList, int> cases[] = {
-        {{"--to", "120.5"}, 20}, {{"--to", "120.5", "--symbols", "100"}, 0}, {{"--to", "500"}, 0}};
+        {{"--from", "100.5", "--to", "120.5"}, 20},
+        {{"--from", "100.5", "--to", "120.5", "--symbols", "100"}, 0},
+        {{"--from", "100.5", "--to", "500"}, 0},
+        {{"--from", "1", "--to", "500", "--x-axis", "log"}, 18}}; // The next ones are nearer.
     for (const auto& [range, count] : cases) {
-        ASSERT_EQ(chart.run(QStringList{"in.csv", "-o", "out.svg", "--from", "100.5"} + range), 0);
+        ASSERT_EQ(chart.run(QStringList{"in.csv", "-o", "out.svg"} + range), 0);
         EXPECT_EQ(QString::fromUtf8(chart.read("out.svg")).count(symbol), count);
     }
+}
+
+TEST(KestraneChartTest, ShowsASpectrumOverFrequency)
+{
+    ChartRun chart;
+    chart.writeColumn("in.csv", QString("1 -1 ").repeated(50).trimmed().split(' '));
+    ASSERT_EQ(chart.run({"in.csv", "-o", "out.svg", "--show", "spectrum", "--x-quantity", "time",
+                         "--step", "0.001"}),
+              0);
+    EXPECT_TRUE(chart.read("out.svg").contains(">500 Hz<"));
 }
 
 TEST(KestraneChartTest, WritesVectorFormatsThatOthersCanRead)
