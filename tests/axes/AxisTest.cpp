@@ -39,28 +39,6 @@ Ticks unrankedTicks(int count)
     return ticks;
 }
 
-// The methods of one kind that a class adds to the meta-object of its base, in order.
-QStringList ownMethods(const QMetaObject& meta, QMetaMethod::MethodType type)
-{
-    QStringList result;
-    for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
-        if (meta.method(i).methodType() == type)
-            result << QString::fromLatin1(meta.method(i).methodSignature());
-    }
-    return result;
-}
-
-QStringList gestureSlots()
-{
-    const QString state = "(double,double,boost::shared_ptr<const ScrollScaleState>";
-    QStringList result;
-    for (const char* name : {"scrollAxis", "scaleAxis"})
-        result << name + state + ",double,double,double)" << name + state + ",double,double)"
-               << name + state + ",double)" << name + state + ")"
-               << QString(name) + "(double,double)";
-    return result;
-}
-
 } // namespace
 
 TEST(AxisTickTest, OnlyValidTicksAtTheSamePlaceAreEqual)
@@ -133,19 +111,6 @@ TEST(AxisRankingTest, BisectionGivesTheEndsThenTheMiddleThenTheQuarters)
     EXPECT_EQ(preset.first().rank(), 4000.0);
 }
 
-TEST(AxisRankingTest, EveryMajorTickOutranksEveryMinorTick)
-{
-    OpenAxis axis;
-    for (const int count : {1, 2, 3, 10, 64, 1000}) {
-        Ticks major = unrankedTicks(count);
-        Ticks minor = unrankedTicks(count);
-        axis.updateRanking(major, true);
-        axis.updateRanking(minor, false);
-        EXPECT_TRUE(major.last().rank() > 1500.0 && major.first().rank() < 2500.0) << count;
-        EXPECT_TRUE(minor.last().rank() > 0.0 && minor.first().rank() < 1000.0) << count;
-    }
-}
-
 TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)
 {
     OpenAxis axis;
@@ -159,65 +124,6 @@ TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)
     axis.emitMinValChanged(false);
     axis.emitMaxValChanged(false);
     EXPECT_EQ(log.take(), "minValueChanged(0) maxValueChanged(10)");
-}
-
-TEST(AxisMetaObjectTest, SignalsAndSlotsStandInOrder)
-{
-    const QMetaObject& axis = Axis::staticMetaObject;
-    EXPECT_STREQ(axis.className(), "pelorin::ui::chart::Axis");
-    EXPECT_EQ(ownMethods(axis, QMetaMethod::Signal),
-              (QStringList{"parametersChanged(pelorin::ui::chart::Axis*)",
-                           "minValueChanged(double)", "maxValueChanged(double)", "ticksUpdated()",
-                           "axisChangedViaScalingOrScrolling()"}));
-    EXPECT_EQ(ownMethods(axis, QMetaMethod::Slot),
-              gestureSlots() + QStringList({"update()", "emitParametersChanged()",
-                                            "emitMinValChanged(bool)", "emitMinValChanged()",
-                                            "emitMaxValChanged(bool)", "emitMaxValChanged()"}));
-
-    const QMetaObject& linear = FixedPositionLinearAxis::staticMetaObject;
-    EXPECT_STREQ(linear.className(), "pelorin::ui::chart::FixedPositionLinearAxis");
-    EXPECT_EQ(ownMethods(linear, QMetaMethod::Signal),
-              (QStringList{"numMajorDivisionsChanged(int)", "numMinorDivisionsChanged(int)",
-                           "offsetChanged(double)", "scaleChanged(double)", "anchorChanged(double)",
-                           "offsetIsAddedChanged(bool)"}));
-    EXPECT_EQ(
-        ownMethods(linear, QMetaMethod::Slot),
-        QStringList({"setNumMajorDivisions(int)", "setNumMinorDivisions(int)", "setOffset(double)",
-                     "setScale(double)", "setOffsetAndScale(double,double)", "setAnchor(double)",
-                     "setOffsetIsAdded(bool)"}) +
-            gestureSlots());
-    EXPECT_EQ(LinearAxis().metaObject(), &linear);
-}
-
-TEST(AxisMetaObjectTest, LogarithmicAndComposedAxesHaveTheirOwnMethods)
-{
-    struct Row
-    {
-        const QMetaObject* meta;
-        const char* name;
-        QStringList signalNames, slotsBefore, slotsBehind;
-    };
-    const Row rows[] = {
-        {&LogAxis::staticMetaObject,
-         "LogAxis",
-         {"smallestChanged(double)", "largestChanged(double)"},
-         {"setSmallest(double)", "setLargest(double)"},
-         {}},
-        {&MirroredAxis::staticMetaObject, "MirroredAxis", {}, {}, {"onTicksUpdated()"}},
-        {&AggregateAxis::staticMetaObject,
-         "AggregateAxis",
-         {},
-         {},
-         {"setAnchor(double)", "updateReverseMap(Axis*)"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(row.meta->className(), QByteArray("pelorin::ui::chart::") + row.name);
-        EXPECT_EQ(ownMethods(*row.meta, QMetaMethod::Signal), row.signalNames);
-        EXPECT_EQ(ownMethods(*row.meta, QMetaMethod::Slot),
-                  row.slotsBefore + gestureSlots() + row.slotsBehind);
-        EXPECT_EQ(row.meta->propertyCount() - row.meta->propertyOffset(), row.signalNames.size());
-    }
 }
 
 TEST(AxisMetaObjectTest, EveryClassHasTheSameDefaultLimits)

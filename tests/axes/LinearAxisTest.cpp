@@ -78,19 +78,6 @@ TEST(LinearAxisTest, TicksFollowTheVirtualOperations)
     EXPECT_EQ(major.size(), 6u);
 }
 
-TEST(LinearAxisTest, ScrollingSlidesTicksAndKeepsTheirValues)
-{
-    LinearAxis axis(5.0, -3.0, 0.0, false, 4, 5);
-    const Places before = places(axis.majorTicks());
-    axis.scrollAxis(0.0, 0.1);
-    const Places after = places(axis.majorTicks());
-    ASSERT_EQ(after.size(), before.size());
-    for (std::size_t i = 0; i < after.size(); ++i) {
-        EXPECT_EQ(after[i].first, before[i].first);
-        EXPECT_NEAR(after[i].second, before[i].second - 0.1, 4e-16);
-    }
-}
-
 TEST(LinearAxisTest, ZeroDivisionsKeepTheOldTicksUntilThereAreDivisionsAgain)
 {
     LinearAxis axis(1.0, 0.0, 0.0, false, 4, 2);

@@ -9,8 +9,6 @@
 
 #include <QCoreApplication>
 #include <QLocale>
-#include <QMetaMethod>
-#include <QMetaProperty>
 
 #include <gtest/gtest.h>
 
@@ -147,25 +145,4 @@ TEST_F(TickFormatterTest, ChangesOfSettingsAskForNewLabels)
     formatter.setSizeTemplate("-88.8 mV");
     EXPECT_EQ(take(), QStringList({"-88.8 mV"}));
     EXPECT_EQ(formatter.sizeTemplate(), "-88.8 mV");
-}
-
-TEST_F(TickFormatterTest, MetaObjectOffersItsPropertiesBySignalAndSlot)
-{
-    QObject parent;
-    auto* formatter = new TickFormatter(&parent);
-    EXPECT_EQ(formatter->parent(), &parent);
-    EXPECT_STREQ(formatter->metaObject()->className(), "pelorin::ui::chart::TickFormatter");
-
-    const QMetaObject& meta = TickFormatter::staticMetaObject;
-    for (const char* name : {"quantity", "sizeTemplate"}) {
-        const QMetaProperty property = meta.property(meta.indexOfProperty(name));
-        EXPECT_TRUE(property.write(formatter, "voltage")) << name;
-        EXPECT_EQ(property.read(formatter).toString(), "voltage") << name;
-        EXPECT_EQ(property.notifySignal().name(), QByteArray(name) + "Changed") << name;
-    }
-    const char* const methods[] = {"quantityChanged(QString)", "sizeTemplateChanged(QString)",
-                                   "formatterChanged()", "setQuantity(QString)",
-                                   "setSizeTemplate(QString)"};
-    for (int i = 0; i < 5; ++i)
-        EXPECT_STREQ(meta.method(meta.methodOffset() + i).methodSignature(), methods[i]);
 }

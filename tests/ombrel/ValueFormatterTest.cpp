@@ -150,19 +150,3 @@ TEST_F(ValueFormatterTest, UnitsAreChosenByIndexOrElseBySystem)
     EXPECT_EQ(texts("energy", {3.6e6}), "1 kWh");
     EXPECT_EQ(texts("ratio", {0.05}), "50000 ppm");
 }
-
-TEST_F(ValueFormatterTest, TellsEachChangeAsItWasMadeEvenIfAListenerMakesAnother)
-{
-    QStringList heard;
-    QObject::connect(&m_formatter, &F::quantityChanged,
-                     [this] { m_formatter.setQuantity(quantity("time")); });
-    QObject::connect(&m_formatter, &F::quantityChanged,
-                     [&](const variables::Quantity& quantity) { heard << quantity; });
-    QObject::connect(&m_formatter, &F::localeChanged,
-                     [this] { m_formatter.setLocale(QLocale("de_DE")); });
-    QObject::connect(&m_formatter, &F::localeChanged,
-                     [&](const QLocale& locale) { heard << locale.name(); });
-    m_formatter.setQuantity(quantity("mass"));
-    m_formatter.setLocale(QLocale("fr_FR"));
-    EXPECT_EQ(heard, QStringList({"time", "mass", "de_DE", "fr_FR"}));
-}

@@ -88,19 +88,6 @@ TEST(AxisDivisionTest, FixedPlacesDivideTheRangeEvenly)
     }
 }
 
-TEST(AxisDivisionTest, RangesRoundOutwardsToMinorDivisionsAndNeverInwards)
-{
-    const std::pair<double, double> cases[][2] = {{{0.0, 299.997}, {0.0, 300.0}},
-                                                  {{1958.24, 2001.4}, {1958.0, 2002.0}},
-                                                  {{-0.473, 0.473}, {-0.48, 0.48}},
-                                                  {{0.0, 300.0}, {0.0, 300.0}}};
-    for (const auto& [range, expected] : cases) {
-        const auto rounded = AxisDivision::rounded(range.first, range.second, 10);
-        EXPECT_DOUBLE_EQ(rounded.first, expected.first);
-        EXPECT_DOUBLE_EQ(rounded.second, expected.second);
-    }
-}
-
 TEST(AxisDivisionTest, OnlyRangesWithAnExtentInDigitsAreUsable)
 {
     const std::pair<double, double> bad[] = {

@@ -86,18 +86,6 @@ TEST(AxisViewTest, TheJointOfABipolarAxisHasTwoLinesAndAsManyDigitsAsItsValue)
     EXPECT_NE(decade.find("|1/-1|"), std::string::npos) << decade;
 }
 
-TEST(AxisViewTest, MajorTicksComeFirstAndOnlyTheyHaveLabels)
-{
-    const QVector<TickMark> marks =
-        AxisView(AxisDivision::of(0.0, 10.0, 5, TickPlaces::Moving).shown(), QString()).marks();
-    ASSERT_EQ(marks.size(), 6 + 5 * 3);
-    for (int i = 0; i < marks.size(); ++i) {
-        EXPECT_EQ(marks[i].major, i < 6);
-        EXPECT_EQ(marks[i].label.isEmpty(), !marks[i].major);
-    }
-    EXPECT_DOUBLE_EQ(marks[0].place, 1.0);
-}
-
 } // namespace
 
 } // namespace hosts::charting

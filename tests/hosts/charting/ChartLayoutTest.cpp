@@ -96,20 +96,6 @@ TEST(ChartLayoutTest, LabelsOfMinorTicksAreCalmWhereMajorOnesSuffice)
     EXPECT_EQ(labels(ChartLayout::of(size, texts, typewriter)), "1|3|4|8");
 }
 
-TEST(ChartLayoutTest, LabelsAtBothEndsOfBothAxesFindRoom)
-{
-    ChartTexts texts;
-    texts.xMarks = {mark(1.0, QStringLiteral("1000000 Hz")),
-                    mark(0.0, QStringLiteral("-0.0001 Hz")), mark(0.1, QString(), false)};
-    texts.yMarks = {mark(1.0, QStringLiteral("1 mV")), mark(0.0, QStringLiteral("-1 mV"))};
-    const ChartLayout layout = ChartLayout::of(QSizeF(400, 300), texts, typewriter);
-    EXPECT_EQ(labels(layout), "1000000 Hz|-0.0001 Hz|1 mV|-1 mV");
-    EXPECT_EQ(layout.tickLabels[0].place.center().x(), layout.plot.right());
-    EXPECT_EQ(layout.tickLabels[1].place.center().x(), layout.plot.left());
-    EXPECT_EQ(layout.tickLabels[2].place.center().y(), layout.plot.top());
-    EXPECT_EQ(layout.tickLabels[2].place.right(), layout.tickLabels[3].place.right());
-}
-
 TEST(ChartLayoutTest, TheLegendCountsTheNamesThatHaveNoRoom)
 {
     ChartTexts texts;

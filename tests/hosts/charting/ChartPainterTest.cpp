@@ -88,27 +88,6 @@ TEST(ChartPainterTest, GridLinesCoverWholePixelsAtEveryScale)
     }
 }
 
-TEST(ChartPainterTest, MinorLinesThatWouldRunTogetherAreLeftOut)
-{
-    const Picture picture(chartOf({}, 50), 1.0);
-    const QPoint centre = picture.layout.plot.center().toPoint();
-    for (int i = 0; i < 20; ++i)
-        EXPECT_NE(picture.image.pixelColor(centre + QPoint(i, i / 2)), picture.look.minorGrid) << i;
-}
-
-TEST(ChartPainterTest, CurvesCanBeToldApartFromEachOtherAndTheBackground)
-{
-    for (const Look& look : {Look::light(), Look::dark()}) {
-        QSet<QRgb> seen;
-        for (int i = 0; i < 24; ++i) {
-            const QColor color = look.curveColor(i);
-            EXPECT_GT(std::abs(color.lightness() - look.plotBackground.lightness()), 30) << i;
-            seen.insert(color.rgb());
-        }
-        EXPECT_EQ(seen.size(), 24);
-    }
-}
-
 } // namespace
 
 } // namespace hosts::charting

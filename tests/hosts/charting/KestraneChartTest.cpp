@@ -188,15 +188,6 @@ TEST(KestraneChartTest, DrawsValuesAtTheHeightOfTheirLogarithmAndALineOutThrough
     }
 }
 
-TEST(KestraneChartTest, PrintsItsHelpAndItsVersion)
-{
-    ChartRun chart;
-    for (const char* const option : {"--version", "--help"}) {
-        EXPECT_EQ(chart.run({option}), 0);
-        EXPECT_TRUE(chart.output().contains(QLatin1String("kestrane-chart "))) << option;
-    }
-}
-
 } // namespace
 
 } // namespace hosts::charting

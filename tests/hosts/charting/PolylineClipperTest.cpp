@@ -28,16 +28,6 @@ TEST(PolylineClipperTest, KeepsWhatLiesInsideAndCutsAtTheBorder)
         EXPECT_EQ(clipPolyline(points, bounds), pieces);
 }
 
-TEST(PolylineClipperTest, ALineToInfinityLeavesAndComesBackUpright)
-{
-    const Lines pieces = clipPolyline({{1, 1}, {3, qInf()}, {4, 4}}, bounds);
-    ASSERT_EQ(pieces.size(), 2);
-    EXPECT_NEAR(pieces[0].last().x(), 1.0, 1e-6);
-    EXPECT_NEAR(pieces[1].first().x(), 4.0, 1e-6);
-    EXPECT_EQ(pieces[0].last().y(), 10.0);
-    EXPECT_EQ(pieces[1].first().y(), 10.0);
-}
-
 TEST(PolylineClipperTest, NoPieceLeavesTheBounds)
 {
     std::mt19937 random(3);
