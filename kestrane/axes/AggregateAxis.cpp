@@ -66,7 +66,6 @@ AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
     entry.axis = axis;
     entry.from = from;
     entry.to = to;
-    entry.connections.clear(); // They stay in force: nothing but their handles is gone.
     m_reverseMap[axis->minValue()] = &entry;
     connectTo(entry);
     detail::inTurn(
@@ -77,6 +76,7 @@ AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
 void AggregateAxis::connectTo(SubAxisEntry& entry)
 {
     Axis* const axis = entry.axis;
+    // Those of an axis that stood here before stay in force: only their handles are gone.
     entry.connections = {
         connect(axis, &Axis::minValueChanged, this, [this] { Q_EMIT minValueChanged(minValue()); }),
         connect(axis, &Axis::maxValueChanged, this, [this] { Q_EMIT maxValueChanged(maxValue()); }),

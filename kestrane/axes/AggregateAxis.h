@@ -25,7 +25,8 @@ namespace chart {
 /// In charge of a position is the sub-axis with the last start at or below it, in charge of a value
 /// the one with the last minimum at or below it; where there is none, the first one; NaN goes to
 /// the last. The upper side has a boundary. Whether the answer lies in the stretch is not looked
-/// at. Of two sub-axes with the same minimum, values reach only the one that reported it last.
+/// at. Of two sub-axes with the same minimum, values reach only the one that reported it last. A
+/// mirrored axis reports as its source, so that its own minimum counts as it was when it was added.
 ///
 /// minValue() is that of the first sub-axis, maxValue() that of the last. A gesture moves only the
 /// sub-axis whose stretch, from inclusive and to exclusive, it grips.

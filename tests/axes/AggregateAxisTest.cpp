@@ -88,6 +88,18 @@ TEST(AggregateAxisStretchesTest, ASubAxisAnswersBeyondItsStretchAndInGaps)
     EXPECT_EQ(axis.transform(Linear, 10000.0), 2.0 + 2.0 * 900.0);
     EXPECT_EQ(axis.transform(Linear, 500.0), low.transform(Linear, 500.0) * 0.5 + 0.5);
     EXPECT_DOUBLE_EQ(axis.inverseTransform(Linear, 1.5), 1e4); // A gap goes to the one below.
+    EXPECT_EQ(axis.scaleMode(), Logarithmic);
+    EXPECT_EQ(axis.smallestTickDistance(true), 0.5 * 9.0); // Of the first one both.
+    EXPECT_EQ(axis.transform(Logarithmic, 0.3), axis.transform(Linear, std::pow(10.0, 0.3)));
+    MirroredAxis nowhere(nullptr);
+    axis.addAxis(&nowhere, 5.0, 6.0);
+    EXPECT_EQ(axis.inverseTransform(Linear, NaN), 0.0); // Of the last one.
+    LinearAxis narrow;
+    AggregateAxis third;
+    third.addAxis(&narrow, 0.1, 0.4);
+    EXPECT_EQ(third.inverseTransform(Linear, 0.16), (0.16 - 0.1) / (0.4 - 0.1) * 10.0);
+    third.removeAllAxes();
+    EXPECT_TRUE(std::isnan(third.transform(Linear, 5.0)));
     EXPECT_EQ(axis.inverseTransform(Linear, 0.0), 0.01);
 }
 
@@ -156,15 +168,20 @@ TEST_F(AggregateAxisTest, AddingAndRemovingTellInOrder)
 
 TEST(AggregateAxisStretchesTest, AReplacedSubAxisIsStillHeard)
 {
-    LinearAxis old(1.0, 100.0), present(1.0, 50.0);
-    AggregateAxis axis;
+    LinearAxis old(1.0, 100.0), present(1.0, 50.0), twin(1.0, 50.0), last(1.0, 60.0);
+    AggregateAxis axis, same;
+    same.addAxis(&present, 0.0, 0.5).addAxis(&twin, 0.5, 1.0);
+    EXPECT_EQ(same.transform(Linear, 55.0), 0.75); // Two with one minimum: the later one has it.
     axis.addAxis(&old, 0.0, 0.5).addAxis(&present, 0.0, 1.0);
     EXPECT_EQ(axis.minValue(), 50.0);
     EXPECT_EQ(axis.transform(Linear, 105.0), 5.5); // Both minima lead to the present one.
     SignalLog log(&axis);
     old.setScale(2.0);
     EXPECT_EQ(log.take(), "maxValueChanged(60) ticksUpdated() parametersChanged(self)");
-    axis.removeAxis(&present);
+    axis.addAxis(&last, 2.0, 3.0);
+    present.setOffset(70.0); // Of its two minima the first one moves.
+    EXPECT_EQ(axis.transform(Linear, 55.0), 1.5);
+    axis.removeAxis(&last).removeAxis(&present);
     EXPECT_TRUE(std::isnan(axis.transform(Linear, 105.0)));
 }
 
@@ -225,9 +242,15 @@ TEST_F(AggregateAxisTest, GesturesMoveOnlyWhatTheyGrip)
     axis.scaleAxis(0.25, 0.5, {}, Lowest, 41.0, 0.25); // The pixel's size is handed on as it is.
     EXPECT_EQ(first.scale(), 2.0);
 
+    axis.removeAxis(&second).removeAxis(&first).addAxis(&first, 0.0, 1.0);
+    first.setOffsetAndScale(5.0, 3.0);
+    axis.scrollAxis(0.6, 0.1, base); // The base is that of whatever stood at the grip.
+    EXPECT_DOUBLE_EQ(first.offset(), 21.0);
+    axis.addAxis(&second, 0.5, 0.75);
+
     log.take();
     axis.scrollAxis(0.6, 0.025, LinearAxis().scrollScaleState()); // A foreign base is none.
-    EXPECT_EQ(log.take(), "minValueChanged(1) maxValueChanged(44) ticksUpdated() "
+    EXPECT_EQ(log.take(), "minValueChanged(21) maxValueChanged(44) ticksUpdated() "
                           "parametersChanged(self) axisChangedViaScalingOrScrolling()");
 }
 
@@ -280,6 +303,9 @@ TEST_F(AggregateAxisTest, ClonesOwnTheirSubAxesAndEqualityIsIdentity)
     shifted.addAxis(&mirror, 0.0, 0.5).addAxis(source.get(), 0.5, 0.9);
     shorter.addAxis(&mirror, 0.0, 0.5);
     EXPECT_TRUE(same == bipolar);
+    AggregateAxis moved;
+    moved.addAxis(&mirror, 0.25, 0.5).addAxis(source.get(), 0.5, 1.0);
+    EXPECT_TRUE(moved != bipolar);
     EXPECT_TRUE(shifted != bipolar && shorter != bipolar && bipolar != shorter);
     EXPECT_TRUE(bipolar != mirror);
 }

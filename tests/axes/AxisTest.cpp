@@ -109,6 +109,11 @@ TEST(AxisRankingTest, BisectionGivesTheEndsThenTheMiddleThenTheQuarters)
     axis.updateRanking(preset, true);
     EXPECT_THAT(values(preset), ElementsAre(1, 0, 2));
     EXPECT_EQ(preset.first().rank(), 4000.0);
+
+    Ticks below = unrankedTicks(3);
+    below[0].setRank(-1.0);
+    axis.updateRanking(below, false);
+    EXPECT_EQ(below.last().rank(), -1.0); // It has a rank already.
 }
 
 TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)

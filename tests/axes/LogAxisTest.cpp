@@ -72,6 +72,7 @@ TEST_F(LogAxisTest, MapsBothFormsWhateverTheLimits)
         EXPECT_THAT(odd.inverseTransform(logarithmic, 0.5), is(row.middle));
     }
     EXPECT_EQ(LogAxis(10.0, 10.0).transform(linear, 100.0), -1.0);
+    EXPECT_EQ(LogAxis(100.0, 10.0).transform(linear, 0.0), -Infinity);
     EXPECT_EQ(axis.transform(linear, 0.0), -Infinity);
     EXPECT_EQ(axis.transform(linear, -3.0), -Infinity);
     EXPECT_EQ(axis.transform(linear, Infinity), Infinity);
@@ -117,6 +118,7 @@ TEST_F(LogAxisTest, ScrollingMovesBothLimitsOrNone)
         {-1.0, 0.05, Highest, 0.05, 1.0},
         {-0.5, 1.0, Highest, 1.0, 100.0}, // It stands at a limit already.
         {0.5, Lowest, 100.0, 1.0, 100.0},
+        {1e-14, Lowest, Highest, std::pow(10.0, 2e-14), std::pow(10.0, (1e-14 + 1.0) * 2.0)},
         {NaN, 0.5, 50.0, 0.5, NaN},
     };
     for (const Row& row : rows) {
@@ -138,9 +140,10 @@ TEST_F(LogAxisTest, ScalingKeepsTheSmallestValue)
         double largest;
     };
     const Row rows[] = {
-        {0.5, 0.25, Highest, 1e4},    // Twice the decades.
-        {0.5, -0.5, Highest, 10.0},   // Half of them.
-        {0.0, -0.5, Highest, 1.0},    // None.
+        {0.5, 0.25, Highest, 1e4},  // Twice the decades.
+        {0.5, -0.5, Highest, 10.0}, // Half of them.
+        {0.0, -0.5, Highest, 1.0},  // None.
+        {0.0, 0.0, Highest, Highest}, {0.5, 0.5, 100.0 * (1.0 + 1e-13), 100.0 * (1.0 + 1e-13)},
         {0.5, 0.5, Highest, Highest}, // To the start of the axis: as far as it goes.
         {0.5, 0.75, 1e6, 1e6},        {0.5, 0.25, 5000.0, 5000.0},
         {0.5, NaN, Highest, NaN},     {0.5, 0.25, NaN, 1e4}, // No limit at all.
@@ -154,6 +157,14 @@ TEST_F(LogAxisTest, ScalingKeepsTheSmallestValue)
     }
     axis.scaleAxis(0.5, 0.5, noBase, Lowest, 100.0);
     EXPECT_EQ(log.take(), "");
+
+    LogAxis turned(100.0, 1.0), small(0.1, 10.0), odd(2.0, 1000.0);
+    turned.scaleAxis(0.5, 0.25);
+    EXPECT_EQ(turned.largest(), Highest); // No decades are beyond its limit.
+    small.scaleAxis(0.6, 0.1, noBase, Lowest, 100.0);
+    EXPECT_DOUBLE_EQ(small.largest(), std::pow(10.0, 2.0 * 0.6 / 0.5) * 0.1);
+    odd.scaleAxis(0.7, 0.1);
+    EXPECT_EQ(odd.largest(), std::pow(10.0, std::log10(500.0) * 0.7 / (0.7 - 0.1)) * 2.0);
 }
 
 TEST_F(LogAxisTest, GesturesCountFromTheirBaseAndTellOnce)
@@ -191,6 +202,7 @@ TEST(LogAxisTicksTest, StandInEveryDecadeAndHangOver)
         {1.0, 95.0, {{1, 0}, {10, 0.505632}, {100, 1.011264}}, 16, 2, 90},
         {1.0, 85.0, {{1, 0}, {10, 0.518291}}, 15, 2, 80},
         {25.0, 75.0, {{10, -0.834044}}, 5, 30, 70},
+        {1.0, 5.0, {{1, 0}}, 4, 2, 5}, // The last one on the limit itself.
         {0.25, 3.5, {{0.1, -0.347204}, {1, 0.525299}}, 9, 0.3, 3},
         {1000.0, 1.0, {{1000, 0}}, 0, 0, 0},
         {1.0, 0.0, {{1, 0}}, 0, 0, 0},
@@ -257,6 +269,8 @@ TEST(LogAxisDistancesTest, AnchorAndTickDistancesFollowTheDecades)
         EXPECT_THAT(axis.smallestTickDistance(true), is(row.major));
         EXPECT_THAT(axis.smallestTickDistance(false), near(row.minor));
     }
+    EXPECT_EQ(LogAxis(20.0, 1e4).smallestTickDistance(false),
+              std::pow(10.0, std::log10(2.0) + 1.0) - 10.0);
 }
 
 TEST_F(LogAxisTest, ClonesAreEqualAndOthersAreNot)
@@ -264,6 +278,8 @@ TEST_F(LogAxisTest, ClonesAreEqualAndOthersAreNot)
     EXPECT_TRUE(*std::unique_ptr<LogAxis>(axis.clone()) == axis);
     EXPECT_TRUE(axis != LogAxis(1.0, 101.0));
     EXPECT_TRUE(axis != LogAxis(1.1, 100.0));
+    EXPECT_TRUE(axis != LogAxis(1.0, std::nextafter(100.0, 0.0)));
+    EXPECT_TRUE(LogAxis(2.0, 100.0) != LogAxis(std::nextafter(2.0, 3.0), 100.0));
     EXPECT_TRUE(axis != LinearAxis());
     EXPECT_TRUE(LogAxis(NaN, 50.0) != LogAxis(NaN, 50.0));
 }

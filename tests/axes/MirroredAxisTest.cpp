@@ -114,6 +114,32 @@ TEST_F(MirroredAxisTest, GesturesMoveTheSource)
     EXPECT_DOUBLE_EQ(source->largest(), 10.0);
 }
 
+TEST(MirroredAxisSourceTest, GetsEveryArgumentAndKeepsItsTicksInvisible)
+{
+    class Recorder : public LinearAxis
+    {
+    public:
+        using Base = boost::shared_ptr<const ScrollScaleState>;
+        void scrollAxis(double at, double by, const Base& base, double low, double high,
+                        double pixel) override
+        {
+            got << at << by << (base ? 1.0 : 0.0) << low << high << pixel;
+        }
+        void scaleAxis(double at, double by, const Base& base, double low, double high,
+                       double pixel) override
+        {
+            Recorder::scrollAxis(at, by, base, low, high, pixel);
+        }
+        QVector<Tick> majorTicks() override { return {{1.0, 0.5, 7.0, {}, true}}; }
+        QList<double> got;
+    } source;
+    MirroredAxis mirror(&source);
+    mirror.scrollAxis(0.25, 0.5, mirror.scrollScaleState(), -7.0, 9.0, 0.125);
+    mirror.scaleAxis(0.75, -0.5, {}, -3.0, 5.0, 0.25);
+    EXPECT_EQ(source.got, (QList<double>{0.75, -0.5, 1, -7, 9, 0.125, 0.25, 0.5, 0, -3, 5, 0.25}));
+    EXPECT_TRUE(mirror.majorTicks().last().isInvisible());
+}
+
 TEST_F(MirroredAxisTest, WithoutASourceItAnswersZero)
 {
     const Ticks before = mirror.majorTicks();
