@@ -1,7 +1,8 @@
 # Who may include whom. Each rule: the files, then what their project includes may begin with.
 #   axes -> library (the tick formatter also uses the value formatter of the backend)
+#   colors -> library
 #   backend -> the axis contract          ombrel -> backend
-#   plots -> axes, backend                library's entry class -> axes
+#   plots -> axes, backend                library's entry class -> axes, colors
 #   hosts and benchmarks -> installed headers (<...>) and their own
 function(check_layer allowed)
   set(files)
@@ -27,7 +28,9 @@ endfunction()
 
 set(formatter "kestrane/backend/(ValueFormatter|Quantity|QuantityManager|Singleton|TranslationManager)\\.h")
 check_layer("kestrane/(axes|library)/|${formatter}" "kestrane/axes/*.h" "kestrane/axes/*.cpp")
-check_layer("kestrane/(library/|axes/Axis\\.h)" "kestrane/library/*.h" "kestrane/library/*.cpp")
+check_layer("kestrane/(library/|axes/Axis\\.h|colors/ColorMap\\.h)" "kestrane/library/*.h"
+  "kestrane/library/*.cpp")
+check_layer("kestrane/(colors|library)/" "kestrane/colors/*.h" "kestrane/colors/*.cpp")
 check_layer("kestrane/(backend/|axes/Axis\\.h)" "kestrane/backend/*.h")
 check_layer("kestrane/(plots|axes|backend|library)/" "kestrane/plots/*.h" "kestrane/plots/*.cpp"
   "kestrane/plots/detail/*.h" "kestrane/plots/detail/*.cpp")

@@ -1,6 +1,7 @@
 #include "kestrane/library/Kestrane.h"
 
 #include "kestrane/axes/Axis.h"
+#include "kestrane/colors/ColorMap.h"
 
 #include <QByteArray>
 #include <QMetaObject>
@@ -8,6 +9,7 @@
 
 #include <boost/shared_ptr.hpp>
 
+using pelorin::ui::ColorMap;
 using pelorin::ui::chart::Axis;
 
 namespace {
@@ -55,4 +57,5 @@ void Kestrane::registerMetaTypes()
         QMetaObject::normalizedType(
             "boost::shared_ptr<const pelorin::ui::chart::Axis::ScrollScaleState>"),
         nullptr);
+    registerMetaType<ColorMap>(QMetaObject::normalizedType("pelorin::ui::ColorMap"), nullptr);
 }

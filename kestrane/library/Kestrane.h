@@ -10,8 +10,9 @@
 /// thread.
 ///
 /// What needs it are queued connections and QVariant with the library's own types, which the first
-/// user registers with Qt's meta-type system: Axis::ScaleMode and the base of a gesture. They stay
-/// registered. Another thread that calls initialize() at the same moment doesn't wait for that.
+/// user registers with Qt's meta-type system: Axis::ScaleMode, the base of a gesture and ColorMap.
+/// They stay registered. Another thread that calls initialize() at the same moment doesn't wait for
+/// that.
 class KESTRANE_EXPORT Kestrane
 {
 public:

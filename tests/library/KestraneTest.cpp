@@ -1,5 +1,6 @@
 #include "kestrane/library/Kestrane.h"
 #include "kestrane/axes/LinearAxis.h"
+#include "kestrane/colors/ColorMap.h"
 
 #include <QCoreApplication>
 #include <QMetaType>
@@ -19,6 +20,7 @@ TEST(KestraneTest, RegistersItsTypesByNameOnce)
     const char* const names[] = {
         "pelorin::ui::chart::Axis::ScaleMode",
         "boost::shared_ptr<const pelorin::ui::chart::Axis::ScrollScaleState>",
+        "pelorin::ui::ColorMap",
     };
     Kestrane::initialize();
     std::vector<int> ids;
@@ -27,7 +29,7 @@ TEST(KestraneTest, RegistersItsTypesByNameOnce)
         EXPECT_NE(ids.back(), int(QMetaType::UnknownType)) << name;
         EXPECT_TRUE(QMetaType::typeFlags(ids.back()) & QMetaType::WasDeclaredAsMetaType) << name;
     }
-    EXPECT_LT(ids[0], ids[1]);
+    EXPECT_TRUE(ids[0] < ids[1] && ids[1] < ids[2]);
     EXPECT_EQ(QMetaType::metaObjectForType(ids[0]), &Axis::staticMetaObject);
     EXPECT_TRUE(QMetaType::typeFlags(ids[0]) & QMetaType::IsEnumeration);
 
@@ -39,6 +41,7 @@ TEST(KestraneTest, RegistersItsTypesByNameOnce)
         EXPECT_EQ(QMetaType::type(names[i]), ids[i]);
     EXPECT_EQ(qMetaTypeId<Axis::ScaleMode>(), ids[0]);
     EXPECT_EQ(qMetaTypeId<State>(), ids[1]);
+    EXPECT_EQ(qMetaTypeId<pelorin::ui::ColorMap>(), ids[2]);
     Kestrane::deinitialize();
 }
 

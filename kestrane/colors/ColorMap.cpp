@@ -1,0 +1,149 @@
+#include "kestrane/colors/ColorMap.h"
+
+#include <exception>
+#include <iterator>
+#include <limits>
+#include <utility>
+
+namespace pelorin {
+namespace ui {
+
+namespace {
+
+std::size_t truncatedToCount(double x)
+{
+    if (!(x > 0.0)) // NaN too.
+        return 0;
+    if (x >= 0x1p64)
+        return std::numeric_limits<std::size_t>::max();
+    return static_cast<std::size_t>(x);
+}
+
+} // namespace
+
+ColorMap::Builder::Builder(ColorMap& map)
+    : m_map(&map)
+{
+}
+
+ColorMap::Builder::Builder(ColorMap& map, QColor color, std::size_t threshold)
+    : Builder(map)
+{
+    appendEntry(color, threshold);
+}
+
+ColorMap::Builder::Builder(Builder&& other) noexcept
+    : m_map(std::exchange(other.m_map, nullptr))
+{
+}
+
+ColorMap::Builder::~Builder() noexcept(false)
+{
+    if (!m_map)
+        return;
+    try {
+        m_map->rebuildLookupTable();
+    } catch (...) {
+        if (std::uncaught_exceptions() == 0) // A second one on its way would end the program.
+            throw;
+    }
+}
+
+ColorMap::Builder&& ColorMap::Builder::appendEntry(QColor color, std::size_t threshold)
+{
+    m_map->m_colors.append(color);
+    try {
+        m_map->m_thresholds.append(threshold);
+    } catch (...) {
+        m_map->m_colors.removeLast();
+        throw;
+    }
+    return std::move(*this);
+}
+
+ColorMap::ColorMap(const QColor& unmatchedColor)
+    : m_unmatchedColor(unmatchedColor)
+{
+}
+
+ColorMap::ColorMap(const ColorMap& other, double factor)
+    : m_unmatchedColor(other.m_unmatchedColor)
+    , m_colors(other.m_colors)
+    , m_thresholds(other.m_thresholds)
+{
+    for (int i = 1; i < m_thresholds.size(); ++i)
+        m_thresholds[i] = truncatedToCount(static_cast<double>(m_thresholds.at(i)) * factor);
+    rebuildLookupTable();
+}
+
+ColorMap::ColorMap(const ColorMap& other) = default;
+ColorMap::ColorMap(ColorMap&& other) noexcept = default;
+ColorMap::~ColorMap() = default;
+ColorMap& ColorMap::operator=(const ColorMap& other) = default;
+ColorMap& ColorMap::operator=(ColorMap&& other) noexcept = default;
+
+ColorMap::Builder ColorMap::build()
+{
+    return Builder(*this);
+}
+
+ColorMap::Builder ColorMap::appendEntry(QColor color, std::size_t threshold)
+{
+    return Builder(*this, color, threshold);
+}
+
+bool ColorMap::isUnmatched(std::size_t value) const
+{
+    return classOf(value) == m_lookupTable.constEnd();
+}
+
+QColor ColorMap::mapToColor(std::size_t value) const
+{
+    const auto found = classOf(value);
+    return found == m_lookupTable.constEnd() ? m_unmatchedColor : *found;
+}
+
+QColor ColorMap::unmatchedColor() const
+{
+    return m_unmatchedColor;
+}
+
+int ColorMap::numberOfClasses() const
+{
+    return m_colors.size();
+}
+
+QColor ColorMap::colorAtIndex(int index) const
+{
+    return m_colors[index];
+}
+
+std::size_t ColorMap::thresholdAtIndex(int index) const
+{
+    return m_thresholds[index];
+}
+
+QVector<QColor> ColorMap::colors() const
+{
+    return m_colors;
+}
+
+void ColorMap::rebuildLookupTable()
+{
+    Table table;
+    for (int i = 0; i < m_thresholds.size(); ++i)
+        table.insert(m_thresholds.at(i), m_colors.at(i)); // Of equal ones the last stays.
+    m_lookupTable = std::move(table);
+}
+
+// The end of the table for a count that no class takes.
+ColorMap::Table::const_iterator ColorMap::classOf(std::size_t value) const
+{
+    if (value == 0)
+        return m_lookupTable.constEnd();
+    const auto next = m_lookupTable.upperBound(value);
+    return next == m_lookupTable.constBegin() ? m_lookupTable.constEnd() : std::prev(next);
+}
+
+} // namespace ui
+} // namespace pelorin

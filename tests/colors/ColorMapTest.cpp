@@ -1,0 +1,239 @@
+#include "kestrane/colors/ColorMap.h"
+#include "kestrane/library/Kestrane.h"
+
+#include "tests/support/Numbers.h"
+
+#include <QVariant>
+
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <new>
+#include <random>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+using pelorin::ui::ColorMap;
+
+static_assert(std::is_nothrow_move_constructible_v<ColorMap> &&
+              std::is_nothrow_move_assignable_v<ColorMap>);
+static_assert(!std::is_copy_constructible_v<ColorMap::Builder> &&
+              !std::is_move_assignable_v<ColorMap::Builder>);
+
+namespace {
+
+using Thresholds = std::vector<std::size_t>;
+
+constexpr std::size_t Most = std::numeric_limits<std::size_t>::max();
+constexpr int Plenty = std::numeric_limits<int>::max();
+int blocksLeft = Plenty; // How many more blocks Qt gets.
+
+// The class appended i-th has the colour QColor(i, 0, 0), what no class takes is green.
+ColorMap mapOf(const Thresholds& thresholds)
+{
+    ColorMap map(Qt::green);
+    ColorMap::Builder builder = map.build();
+    for (std::size_t i = 0; i < thresholds.size(); ++i)
+        builder.appendEntry(QColor(int(i), 0, 0), thresholds[i]);
+    return map;
+}
+
+Thresholds thresholds(const ColorMap& map)
+{
+    Thresholds result;
+    for (int i = 0; i < map.numberOfClasses(); ++i) {
+        EXPECT_EQ(map.colorAtIndex(i), map.colors().at(i));
+        result.push_back(map.thresholdAtIndex(i));
+    }
+    return result;
+}
+
+// By the words alone: the last of the largest thresholds that are not above the value.
+int scanned(const Thresholds& thresholds, std::size_t value)
+{
+    int found = -1;
+    for (std::size_t i = 0; value > 0 && i < thresholds.size(); ++i) {
+        if (thresholds[i] <= value && (found < 0 || thresholds[i] >= thresholds[std::size_t(found)]))
+            found = int(i);
+    }
+    return found;
+}
+
+void expectAsScanned(const ColorMap& map, std::size_t value)
+{
+    const int i = scanned(thresholds(map), value);
+    EXPECT_EQ(map.isUnmatched(value), i < 0) << value;
+    EXPECT_EQ(map.mapToColor(value), i < 0 ? map.unmatchedColor() : map.colorAtIndex(i)) << value;
+}
+
+} // namespace
+
+// These two stand in front of Qt's own, which get the memory of vectors and of nodes of maps.
+QArrayData* QArrayData::allocate(size_t size, size_t alignment, size_t capacity,
+                                 AllocationOptions options) noexcept
+{
+    static const auto own = reinterpret_cast<decltype(&QArrayData::allocate)>(
+        dlsym(RTLD_NEXT, "_ZN10QArrayData8allocateEmmm6QFlagsINS_16AllocationOptionEE"));
+    return blocksLeft-- <= 0 ? nullptr : own(size, alignment, capacity, options);
+}
+
+QMapNodeBase* QMapDataBase::createNode(int bytes, int alignment, QMapNodeBase* parent, bool left)
+{
+    using Own = QMapNodeBase* (*)(QMapDataBase*, int, int, QMapNodeBase*, bool);
+    static const auto own = reinterpret_cast<Own>(
+        dlsym(RTLD_NEXT, "_ZN12QMapDataBase10createNodeEiiP12QMapNodeBaseb"));
+    if (blocksLeft-- <= 0)
+        throw std::bad_alloc();
+    return own(this, bytes, alignment, parent, left);
+}
+
+TEST(ColorMapTest, MapsACountToTheClassThatTakesIt)
+{
+    const Thresholds lists[] = {{},     {1},      {0},        {Most},       {1, 10, 100}, {5, 10},
+                                {5, 5}, {10, 1},  {0, 0, 3},  {3, 1, 3, 2}, {Most, 1},    {7, 0},
+                                {1, 0}, {2, 1, 2}};
+    for (const Thresholds& list : lists) {
+        const ColorMap map = mapOf(list);
+        EXPECT_EQ(thresholds(map), list);
+        for (const std::size_t value : {0, 1, 2, 3, 4, 5, 6, 9, 10, 11, 99, 100, 101})
+            expectAsScanned(map, value);
+        for (const std::size_t value : {std::size_t(1) << 63, Most - 1, Most})
+            expectAsScanned(map, value);
+    }
+    std::mt19937_64 random(1);
+    for (int round = 0; round < 300; ++round) {
+        Thresholds list(random() % 12);
+        for (std::size_t& threshold : list)
+            threshold = random() % 30;
+        const ColorMap map = mapOf(list);
+        for (std::size_t value = 0; value < 32; ++value)
+            expectAsScanned(map, value);
+    }
+    EXPECT_EQ(mapOf({1, 10, 100}).mapToColor(99), QColor(1, 0, 0));
+    EXPECT_EQ(mapOf({5, 5}).mapToColor(5), QColor(1, 0, 0));
+    EXPECT_EQ(ColorMap().mapToColor(1), QColor(Qt::transparent));
+}
+
+TEST(ColorMapTest, FindsNewClassesOnceTheirBuilderHasEnded)
+{
+    ColorMap map = mapOf({10});
+    {
+        // The temporary that is moved from ends here, without a rebuild.
+        ColorMap::Builder named = map.appendEntry(Qt::red, 1).appendEntry(Qt::blue, 20);
+        named.appendEntry(Qt::black, 30).appendEntry(Qt::white, 40);
+        EXPECT_EQ(thresholds(map), (Thresholds{10, 1, 20, 30, 40}));
+        EXPECT_TRUE(map.isUnmatched(1));
+        EXPECT_EQ(map.mapToColor(40), map.colorAtIndex(0));
+    }
+    map.build();
+    for (std::size_t value = 0; value < 50; ++value)
+        expectAsScanned(map, value);
+}
+
+TEST(ColorMapTest, ScalesAllThresholdsButTheFirstOfTheList)
+{
+    constexpr std::size_t Half = std::size_t(1) << 63;
+    constexpr std::size_t MostAsDouble = Most - 2047;
+    struct Row
+    {
+        Thresholds list;
+        double factor;
+        Thresholds scaled;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {{1, 10, 100},              2.5,      {1, 25, 250}},
+        {{1, 10, 100},              0.05,     {1, 0, 5}},
+        {{100, 10, 1, 11},          0.99,     {100, 9, 0, 10}},
+        {{1, 2, 3},                 0.5,      {1, 1, 1}},
+        {{1, Half + 2048, Half},    1.0,      {1, Half + 2048, Half}},
+        {{1, MostAsDouble, Most},   1.0,      {1, MostAsDouble, Most}},
+        {{1, (1ull << 53) + 1},     1.0,      {1, 1ull << 53}},
+        {{Most, Half, Half - 1024}, 2.0,      {Most, Most, MostAsDouble}},
+        {{7, 3, 0},                 tests::Infinity, {7, Most, 0}},
+        {{7, 3, 0},                 tests::NaN,      {7, 0, 0}},
+        {{7, 3, 0},                 -2.0,     {7, 0, 0}},
+        {{},                        2.0,      {}},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        const ColorMap map = mapOf(row.list);
+        const ColorMap scaled(map, row.factor);
+        EXPECT_EQ(thresholds(scaled), row.scaled) << row.factor;
+        EXPECT_EQ(thresholds(map), row.list) << row.factor;
+        EXPECT_EQ(scaled.colors(), map.colors());
+        EXPECT_EQ(scaled.unmatchedColor(), QColor(Qt::green));
+        for (const std::size_t value : Thresholds{0, 1, 3, 5, 9, 25, 249, 250, Half, Most})
+            expectAsScanned(scaled, value);
+    }
+}
+
+TEST(ColorMapTest, KeepsTheUnmatchedColourWhenMovedFromAndSharesNothingThatChanges)
+{
+    ColorMap first = mapOf({1, 10});
+    ColorMap second(std::move(first));
+    ColorMap third(Qt::yellow);
+    ColorMap fourth;
+    third.appendEntry(Qt::blue, 3);
+    EXPECT_EQ(&(third = std::move(second)), &third);
+    EXPECT_EQ(&(fourth = third), &fourth);
+    for (ColorMap* map : {&first, &second}) {
+        EXPECT_TRUE(thresholds(*map).empty() && map->colors().isEmpty());
+        EXPECT_EQ(map->mapToColor(10), QColor(Qt::green));
+    }
+    fourth.appendEntry(Qt::red, 5);
+    first.appendEntry(Qt::red, 5);
+    ColorMap fifth(third);
+    for (const std::size_t value : {0, 1, 3, 5, 9, 10}) {
+        for (ColorMap* map : {&first, &third, &fourth, &fifth})
+            expectAsScanned(*map, value);
+    }
+    EXPECT_EQ(thresholds(first), (Thresholds{5}));
+    EXPECT_EQ(thresholds(fourth), (Thresholds{1, 10, 5}));
+    EXPECT_EQ(thresholds(fifth), (Thresholds{1, 10}));
+    EXPECT_EQ(fourth.unmatchedColor(), QColor(Qt::green));
+}
+
+TEST(ColorMapTest, StaysAsItIsWhenMemoryRunsOut)
+{
+    ColorMap map;
+    const auto append = [&map](int blocks) {
+        blocksLeft = blocks;
+        map.appendEntry(Qt::red, 10);
+    };
+    for (const int blocks : {0, 1}) {
+        EXPECT_THROW(append(blocks), std::bad_alloc);
+        EXPECT_TRUE(thresholds(map).empty() && map.colors().isEmpty());
+    }
+    append(Plenty);
+
+    const auto build = [&map](bool fail) {
+        const ColorMap::Builder builder = map.appendEntry(Qt::blue, 5);
+        blocksLeft = 0;
+        if (fail)
+            throw std::runtime_error("reached the caller");
+    };
+    for (const bool fail : {false, true}) {
+        if (fail)
+            EXPECT_THROW(build(fail), std::runtime_error);
+        else
+            EXPECT_THROW(build(fail), std::bad_alloc);
+        blocksLeft = Plenty;
+        EXPECT_EQ(map.mapToColor(10), QColor(Qt::red));
+        EXPECT_TRUE(map.isUnmatched(5));
+    }
+    map.build();
+    EXPECT_EQ(map.mapToColor(5), QColor(Qt::blue));
+}
+
+TEST(ColorMapTest, TravelsInAVariant)
+{
+    Kestrane::initialize();
+    const int id = QMetaType::type("pelorin::ui::ColorMap");
+    EXPECT_EQ(QVariant(id, nullptr).value<ColorMap>().unmatchedColor(), QColor(Qt::transparent));
+    const ColorMap map = mapOf({1, 10});
+    EXPECT_EQ(QVariant(id, &map).value<ColorMap>().mapToColor(10), QColor(1, 0, 0));
+    Kestrane::deinitialize();
+}
