@@ -23,8 +23,7 @@ std::size_t truncatedToCount(double x)
 
 ColorMap::Builder::Builder(ColorMap& map)
     : m_map(&map)
-{
-}
+{}
 
 ColorMap::Builder::Builder(ColorMap& map, QColor color, std::size_t threshold)
     : Builder(map)
@@ -34,8 +33,7 @@ ColorMap::Builder::Builder(ColorMap& map, QColor color, std::size_t threshold)
 
 ColorMap::Builder::Builder(Builder&& other) noexcept
     : m_map(std::exchange(other.m_map, nullptr))
-{
-}
+{}
 
 ColorMap::Builder::~Builder() noexcept(false)
 {
@@ -63,8 +61,7 @@ ColorMap::Builder&& ColorMap::Builder::appendEntry(QColor color, std::size_t thr
 
 ColorMap::ColorMap(const QColor& unmatchedColor)
     : m_unmatchedColor(unmatchedColor)
-{
-}
+{}
 
 ColorMap::ColorMap(const ColorMap& other, double factor)
     : m_unmatchedColor(other.m_unmatchedColor)

@@ -35,8 +35,9 @@ public:
     /// @endcode
     /// Until then the map lists the new classes but still looks counts up among the old ones.
     ///
-    /// Only ColorMap makes builders. A builder must not outlive its map. A moved-from
-    /// builder does nothing when it ends, and takes no more classes.
+    /// Only ColorMap makes builders. A builder must end before its map does, and before a function
+    /// that holds both returns the map. A moved-from builder does nothing when it ends, and takes
+    /// no more classes.
     class KESTRANE_EXPORT Builder
     {
     public:

@@ -5,8 +5,8 @@
 
 #include <QVariant>
 
-#include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <dlfcn.h>
 
 #include <limits>
 #include <new>
@@ -30,13 +30,17 @@ constexpr std::size_t Most = std::numeric_limits<std::size_t>::max();
 constexpr int Plenty = std::numeric_limits<int>::max();
 int blocksLeft = Plenty; // How many more blocks Qt gets.
 
+void append(ColorMap::Builder builder, const Thresholds& thresholds)
+{
+    for (std::size_t i = 0; i < thresholds.size(); ++i)
+        builder.appendEntry(QColor(int(i), 0, 0), thresholds[i]);
+}
+
 // The class appended i-th has the colour QColor(i, 0, 0), what no class takes is green.
 ColorMap mapOf(const Thresholds& thresholds)
 {
     ColorMap map(Qt::green);
-    ColorMap::Builder builder = map.build();
-    for (std::size_t i = 0; i < thresholds.size(); ++i)
-        builder.appendEntry(QColor(int(i), 0, 0), thresholds[i]);
+    append(map.build(), thresholds);
     return map;
 }
 
@@ -55,7 +59,8 @@ int scanned(const Thresholds& thresholds, std::size_t value)
 {
     int found = -1;
     for (std::size_t i = 0; value > 0 && i < thresholds.size(); ++i) {
-        if (thresholds[i] <= value && (found < 0 || thresholds[i] >= thresholds[std::size_t(found)]))
+        if (thresholds[i] <= value &&
+            (found < 0 || thresholds[i] >= thresholds[std::size_t(found)]))
             found = int(i);
     }
     return found;
@@ -82,8 +87,8 @@ QArrayData* QArrayData::allocate(size_t size, size_t alignment, size_t capacity,
 QMapNodeBase* QMapDataBase::createNode(int bytes, int alignment, QMapNodeBase* parent, bool left)
 {
     using Own = QMapNodeBase* (*)(QMapDataBase*, int, int, QMapNodeBase*, bool);
-    static const auto own = reinterpret_cast<Own>(
-        dlsym(RTLD_NEXT, "_ZN12QMapDataBase10createNodeEiiP12QMapNodeBaseb"));
+    static const auto own =
+        reinterpret_cast<Own>(dlsym(RTLD_NEXT, "_ZN12QMapDataBase10createNodeEiiP12QMapNodeBaseb"));
     if (blocksLeft-- <= 0)
         throw std::bad_alloc();
     return own(this, bytes, alignment, parent, left);
@@ -91,9 +96,9 @@ QMapNodeBase* QMapDataBase::createNode(int bytes, int alignment, QMapNodeBase* p
 
 TEST(ColorMapTest, MapsACountToTheClassThatTakesIt)
 {
-    const Thresholds lists[] = {{},     {1},      {0},        {Most},       {1, 10, 100}, {5, 10},
-                                {5, 5}, {10, 1},  {0, 0, 3},  {3, 1, 3, 2}, {Most, 1},    {7, 0},
-                                {1, 0}, {2, 1, 2}};
+    const Thresholds lists[] = {{},        {1},    {0},     {Most},    {1, 10, 100},
+                                {5, 10},   {5, 5}, {10, 1}, {0, 0, 3}, {3, 1, 3, 2},
+                                {Most, 1}, {7, 0}, {1, 0},  {2, 1, 2}};
     for (const Thresholds& list : lists) {
         const ColorMap map = mapOf(list);
         EXPECT_EQ(thresholds(map), list);
