@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <thread>
 
 using namespace pelorin::backend;
 using namespace pelorin::ui::chart;
@@ -133,24 +132,6 @@ TEST(SamplePlotAlgorithmTest, ASecondCallGivesTheSameAndTheSegmentsStayAsTheyAre
     EXPECT_FALSE(own.subsampler()) << "the algorithm fills the slots of its own copy only";
     algorithm.setSnapshot(PlotSnapshot());
     EXPECT_TRUE(plotOf(algorithm, linearAxis(8.0), 0.125, 1.0).polylines.empty());
-}
-
-TEST(SamplePlotAlgorithmTest, NewDataMayComeDuringARequest)
-{
-    SamplePlotAlgorithm algorithm;
-    const std::vector<double> low(1000, 0.25), high(1000, 0.75);
-    algorithm.setSnapshot(snapshot({segment(low)}));
-    std::thread measuring([&] {
-        for (int i = 0; i < 200; ++i)
-            algorithm.setSnapshot(snapshot({segment(i % 2 ? low : high)}));
-    });
-    for (int i = 0; i < 200; ++i) {
-        const Plot plot = plotOf(algorithm, linearAxis(1000.0), 0.01, 1.0);
-        ASSERT_EQ(plot.polylines.size(), 1u);
-        for (const auto& point : plot.polylines[0])
-            EXPECT_EQ(point.second, plot.polylines[0].front().second);
-    }
-    measuring.join();
 }
 
 TEST(SamplePlotAlgorithmTest, ArgumentsThatLeaveNothingToDraw)

@@ -2,6 +2,8 @@
 // Plain variables stand wherever the list promises exclusion, for the thread sanitizer to see.
 #include "kestrane/plots/Intersectable.h"
 
+#include "tests/stress/Threads.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -12,22 +14,11 @@
 #include <thread>
 
 using namespace pelorin::ui::chart;
+using namespace tests;
 using pelorin::utilities::Registration;
 using pelorin::utilities::RegistryList;
 
 namespace {
-
-constexpr std::size_t threadCount = 8;
-
-template<typename Work>
-void runThreads(const Work& work)
-{
-    std::vector<std::thread> threads;
-    for (std::size_t thread = 0; thread < threadCount; ++thread)
-        threads.emplace_back([&work, thread] { work(thread); });
-    for (std::thread& thread : threads)
-        thread.join();
-}
 
 struct Plot : Intersectable
 {

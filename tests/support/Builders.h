@@ -10,6 +10,8 @@
 
 #include <boost/make_shared.hpp>
 
+#include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -52,6 +54,24 @@ inline std::vector<Points> exact(const QVector<QVector<QPointF>>& lists)
             result.back().emplace_back(point.x(), point.y());
     }
     return result;
+}
+
+/// Equal, NaN to NaN too; which of two zeros it is doesn't count.
+inline bool same(double a, double b)
+{
+    return a == b || (std::isnan(a) && std::isnan(b));
+}
+
+inline bool same(const std::pair<double, double>& a, const std::pair<double, double>& b)
+{
+    return same(a.first, b.first) && same(a.second, b.second);
+}
+
+template<typename T, typename Allocator>
+bool same(const std::vector<T, Allocator>& a, const std::vector<T, Allocator>& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](const T& x, const T& y) { return same(x, y); });
 }
 
 } // namespace tests

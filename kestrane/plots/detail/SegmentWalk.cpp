@@ -10,17 +10,6 @@ namespace detail {
 
 namespace {
 
-// The first column edge at or before a position, on a grid that starts at 0.0, within the axis.
-double leftEdgeOfColumnAt(double position, double columnWidth)
-{
-    double left = std::floor(position / columnWidth) * columnWidth;
-    if (left > 1.0)
-        left = 1.0;
-    if (!(left > 0.0)) // NaN too starts at the left.
-        left = 0.0;
-    return left;
-}
-
 // Truncated towards zero; a quotient that no 64-bit number holds, NaN included, counts as none.
 long long wholeSamples(double quotient)
 {

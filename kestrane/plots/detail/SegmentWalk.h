@@ -4,6 +4,7 @@
 #include "kestrane/axes/Axis.h"
 #include "kestrane/backend/MinMaxAverageAlgorithm.h"
 #include "kestrane/backend/PlotSegment.h"
+#include "kestrane/plots/detail/Columns.h"
 #include "kestrane/plots/detail/SegmentCurve.h"
 
 #include <QPointF>
@@ -13,13 +14,6 @@ namespace pelorin {
 namespace ui {
 namespace chart {
 namespace detail {
-
-/// How a plot is thinned out.
-struct Thinning
-{
-    double columnWidth;   ///< In x axis space.
-    double symbolSpacing; ///< In columns.
-};
 
 /// The stretch [left, right) of x axis positions whose points are being collected.
 struct Column

@@ -1,0 +1,48 @@
+// New data while plots are asked for: each answer has to come of one setSnapshot() as a whole.
+#include "kestrane/plots/SamplePlotAlgorithm.h"
+
+#include "tests/stress/Threads.h"
+#include "tests/support/Builders.h"
+
+#include <gtest/gtest.h>
+
+using namespace pelorin::backend;
+using namespace pelorin::ui::chart;
+using namespace tests;
+
+namespace {
+
+// Every fourth snapshot is empty, the others hold nothing but their number, as often as it says.
+template<typename SetData, typename Check>
+void exercise(const SetData& setData, const Check& check)
+{
+    runThreads([&](std::size_t thread) {
+        for (std::size_t round = 0; round < 300; ++round) {
+            if (thread % 2 != 0) {
+                check();
+                continue;
+            }
+            const std::size_t number = (round + thread) % 4 * 16;
+            setData(number == 0 ? PlotSnapshot()
+                                : snapshot({segment(std::vector<double>(number, double(number)))}));
+        }
+    });
+}
+
+} // namespace
+
+TEST(PlotStressTest, SamplePlotsAreOfOneSnapshot)
+{
+    SamplePlotAlgorithm plot;
+    const auto axis = linearAxis(64.0);
+    exercise([&](const PlotSnapshot& data) { plot.setSnapshot(data); },
+             [&] {
+                 const auto lists =
+                     exact(plot.createSegments(axis, linearAxis(), 0.01, 0.5).second);
+                 for (const Points& symbols : lists) {
+                     for (const auto& symbol : symbols)
+                         EXPECT_EQ(symbol.second, double(symbols.size()));
+                 }
+                 plot.doIntersect(axis.get(), axis.get(), 0.1);
+             });
+}
