@@ -1,5 +1,6 @@
 // New data while plots are asked for: each answer has to come of one setSnapshot() as a whole.
 #include "kestrane/plots/SamplePlotAlgorithm.h"
+#include "kestrane/plots/XYPlotAlgorithm.h"
 
 #include "tests/stress/Threads.h"
 #include "tests/support/Builders.h"
@@ -44,5 +45,19 @@ TEST(PlotStressTest, SamplePlotsAreOfOneSnapshot)
                          EXPECT_EQ(symbol.second, double(symbols.size()));
                  }
                  plot.doIntersect(axis.get(), axis.get(), 0.1);
+             });
+}
+
+TEST(PlotStressTest, XAndYAreOfOneSnapshot)
+{
+    XYPlotAlgorithm plot;
+    const auto axis = linearAxis();
+    exercise([&](const PlotSnapshot& data) { plot.setSnapshot(data, data); },
+             [&] {
+                 const auto lists = exact(plot.createSegments(axis, axis, 0.1, 0.0).second);
+                 for (const Points& symbols : lists) {
+                     const double size = double(symbols.size());
+                     EXPECT_EQ(symbols, Points(symbols.size(), {size, size}));
+                 }
              });
 }

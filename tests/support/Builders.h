@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -41,6 +42,25 @@ inline QSharedPointer<const Axis> linearAxis(double length = 1.0, double from = 
 {
     return QSharedPointer<pelorin::ui::chart::LinearAxis>::create(length, from, 0.0, false, 1);
 }
+
+/// An axis from 0.0 to 1.0 that lets others do something whenever it is asked for a position.
+class HookedAxis : public pelorin::ui::chart::LinearAxis
+{
+public:
+    explicit HookedAxis(std::function<void(double)> hook)
+        : LinearAxis(1.0, 0.0, 0.0, false, 1)
+        , m_hook(std::move(hook))
+    {}
+
+    double transform(ScaleMode mode, double value) const override
+    {
+        m_hook(value);
+        return LinearAxis::transform(mode, value);
+    }
+
+private:
+    std::function<void(double)> m_hook;
+};
 
 /// Points as pairs of doubles: QPointF compares with a tolerance, which would hide wrong digits.
 using Points = std::vector<std::pair<double, double>>;
