@@ -1,4 +1,5 @@
 // New data while plots are asked for: each answer has to come of one setSnapshot() as a whole.
+#include "kestrane/plots/NeedlePlotAlgorithm.h"
 #include "kestrane/plots/SamplePlotAlgorithm.h"
 #include "kestrane/plots/XYPlotAlgorithm.h"
 
@@ -59,5 +60,18 @@ TEST(PlotStressTest, XAndYAreOfOneSnapshot)
                      const double size = double(symbols.size());
                      EXPECT_EQ(symbols, Points(symbols.size(), {size, size}));
                  }
+             });
+}
+
+TEST(PlotStressTest, NeedlesAreOfOneSnapshot)
+{
+    NeedlePlotAlgorithm plot;
+    const auto axis = linearAxis(64.0);
+    exercise([&](const PlotSnapshot& data) { plot.setSnapshot(data); },
+             [&] {
+                 const auto result = plot.createNeedles(axis.get(), linearAxis().get(), 0.01);
+                 const double size = double(result.values.size());
+                 EXPECT_EQ(result.lastPosition, size / 64.0);
+                 EXPECT_EQ(result.values, SampleVector(result.values.size(), size));
              });
 }
