@@ -1,6 +1,7 @@
-// Qt is not built with the thread sanitizer, which therefore cannot see that QMutex orders the
-// threads that lock it. These definitions stand in front of Qt's own, tell the sanitizer what a
-// lock and an unlock mean, and leave the work to Qt.
+// Qt and TBB are not built with the thread sanitizer, which therefore cannot see that QMutex orders
+// the threads that lock it, nor that an allocator orders those that free memory and get it again.
+// These definitions stand in front of theirs. They tell the sanitizer what a lock and an unlock
+// mean, and leave the work to Qt; memory comes from an allocator that the sanitizer knows.
 #if defined(__has_feature)
 #if __has_feature(thread_sanitizer)
 #define KESTRANE_THREAD_SANITIZER
@@ -16,6 +17,8 @@
 
 #include <dlfcn.h>
 #include <sanitizer/tsan_interface.h>
+
+#include <cstdlib>
 
 namespace {
 
@@ -41,5 +44,19 @@ void QMutex::unlock() noexcept
     __tsan_release(this);
     own(this);
 }
+
+extern "C" {
+
+__attribute__((visibility("default"))) void* scalable_malloc(std::size_t size)
+{
+    return std::malloc(size);
+}
+
+__attribute__((visibility("default"))) void scalable_free(void* memory)
+{
+    std::free(memory);
+}
+
+} // extern "C"
 
 #endif
