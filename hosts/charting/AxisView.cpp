@@ -21,6 +21,8 @@ namespace {
 // What rounding may do to a tick, as a share of the axis or of a division.
 constexpr double roundingAllowance = 1e-9;
 
+constexpr double exactShare = 1e-6; // Of a division; a smaller one is not worth a digit.
+
 constexpr int mostDigits = 15;
 constexpr int manyDigits = 7; // From here on a power of ten behind them makes nothing clearer.
 
@@ -43,7 +45,7 @@ int digitsForSteps(const QVector<double>& values, double step)
 {
     constexpr int fewDigits = 6;
     const int enough = digitsFor(values, [step](double) { return step * 0.01; });
-    const int exact = digitsFor(values, [step](double) { return step * 1e-6; });
+    const int exact = digitsFor(values, [step](double) { return step * exactShare; });
     return exact <= std::max(fewDigits, enough + 1) ? exact : enough;
 }
 
@@ -105,11 +107,25 @@ QVector<TickMark> AxisView::marks() const
         for (const Axis::Tick& tick : visibleTicks(major)) {
             QStringList label;
             if (major || isLogarithmic())
-                label = m_formatter->formatTick(withCleanZero(tick), m_reference);
+                label =
+                    m_formatter->formatTick(withCleanZero(tick, roundingAllowance), m_reference);
             marks.append({std::min(place(tick.axisPosition()), 1.0), major, label});
         }
     }
     return marks;
+}
+
+QString AxisView::textOf(double value, double share) const
+{
+    const Axis::Tick tick = withCleanZero(Axis::Tick(value, 0.0, 0, {}, false), exactShare);
+    const double shown = tick.logicalPosition() - (std::isnan(m_reference) ? 0.0 : m_reference);
+    const double step = isLogarithmic() ? std::abs(shown) : m_axis->smallestTickDistance(true);
+    const int digits = m_formatter->significantDigits();
+    m_formatter->setSignificantDigits(
+        digitsFor({shown}, [&](double) { return step * share * 0.5; }));
+    const QString text = m_formatter->formatTick(tick, m_reference).first();
+    m_formatter->setSignificantDigits(digits);
+    return text;
 }
 
 AxisView::Ticks AxisView::visibleTicks(bool major) const
@@ -131,7 +147,7 @@ QVector<double> AxisView::labelledValues() const
         ticks += visibleTicks(false);
     QVector<double> values;
     for (const Axis::Tick& tick : std::as_const(ticks))
-        values.append(withCleanZero(tick).logicalPosition() - reference);
+        values.append(withCleanZero(tick, roundingAllowance).logicalPosition() - reference);
     return values;
 }
 
@@ -141,11 +157,11 @@ bool AxisView::isLogarithmic() const
 }
 
 // The tick whose label is to be zero may be off by rounding, which a label shows in all its digits.
-Axis::Tick AxisView::withCleanZero(const Axis::Tick& tick) const
+Axis::Tick AxisView::withCleanZero(const Axis::Tick& tick, double allowance) const
 {
     const double zero = std::isnan(m_reference) ? 0.0 : m_reference;
     const double step = m_axis->smallestTickDistance(true);
-    const bool isZero = std::abs(tick.logicalPosition() - zero) < roundingAllowance * step;
+    const bool isZero = std::abs(tick.logicalPosition() - zero) < allowance * step;
     return Axis::Tick(isZero ? zero : tick.logicalPosition(), tick.axisPosition(), tick.rank(),
                       tick.secondaryLogicalPositions(), tick.isInvisible());
 }

@@ -43,13 +43,19 @@ public:
     /// The visible ticks, highest rank first.
     QVector<TickMark> marks() const;
 
+    /// A value in one line as the labels write it.
+    /// @param share which part of a division the digits have to tell apart, or of the value on a
+    ///        logarithmic axis
+    QString textOf(double value, double share = 1e-3) const;
+
 private:
     using Ticks = QVector<pelorin::ui::chart::Axis::Tick>;
 
     Ticks visibleTicks(bool major) const;
     QVector<double> labelledValues() const;
     bool isLogarithmic() const;
-    pelorin::ui::chart::Axis::Tick withCleanZero(const pelorin::ui::chart::Axis::Tick& tick) const;
+    pelorin::ui::chart::Axis::Tick withCleanZero(const pelorin::ui::chart::Axis::Tick& tick,
+                                                 double allowance) const;
     void adaptFormatter(const QVector<double>& values);
 
     QSharedPointer<pelorin::ui::chart::Axis> m_axis;

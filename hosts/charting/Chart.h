@@ -18,6 +18,14 @@ struct Curve
     QVector<QPointF> loneSamples; ///< Those that no line can show, as it has two ends.
 };
 
+/// A place where a cursor crosses a curve.
+struct Crossing
+{
+    int curve = 0;
+    QPointF place; ///< Shares of the plot's width, from its left, and height, from its bottom.
+    QString label;
+};
+
 /// All the texts of a chart.
 struct ChartTexts
 {
@@ -27,6 +35,7 @@ struct ChartTexts
     QStringList legend;       ///< One for each curve; empty for no legend.
     QVector<TickMark> xMarks; ///< Highest rank first, as are the next.
     QVector<TickMark> yMarks;
+    QVector<TickMark> cursors; ///< Vertical lines, the most important first; with one line each.
 };
 
 /// A whole chart, ready to be painted.
@@ -36,6 +45,10 @@ struct Chart
     AxisView x;
     AxisView y;
     QVector<Curve> curves;
+    QVector<Crossing> crossings; ///< All within the plot.
+
+    /// Where in the plot a point of a curve lies, as shares of its width and height.
+    QPointF placeOf(const QPointF& point) const { return {x.place(point.x()), y.place(point.y())}; }
 };
 
 } // namespace hosts::charting

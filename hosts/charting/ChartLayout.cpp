@@ -24,6 +24,8 @@ constexpr double entryDistance = 18.0;
 constexpr double mostLegendWidth = 260.0;
 constexpr double mostLegendShare = 0.25; // Of the picture's height.
 constexpr double smallestPlot = 10.0;
+constexpr double cursorDistance = 5.0;   // From the plot.
+constexpr double mostCursorShare = 0.25; // Of the picture's height.
 
 // Whether they tell how values are spread: two at different places do.
 bool haveMajorsAScale(const QVector<TickMark>& marks)
@@ -57,6 +59,7 @@ private:
     void placePlot(const ChartTexts& texts);
     void placeLegend(const QStringList& names, double top, double left, double right);
     void endLegend(int names, double left, double right);
+    double placeCursors(const QVector<TickMark>& cursors, double left, double right);
     void placeHeadings(const ChartTexts& texts);
     void placeTickLabels(const ChartTexts& texts);
     void placeLabelsOf(const QVector<TickMark>& marks, Qt::Alignment alignment, LabelPlacer& placer,
@@ -143,7 +146,10 @@ void LayoutWork::placePlot(const ChartTexts& texts)
     const double title = texts.title.isEmpty() ? 0.0 : m_measure.height(Style::Title) + spacing;
     placeLegend(texts.legend, edge + title, left, right);
     const double legend = m_layout.legend.isEmpty() ? 0.0 : legendHeight() + spacing;
-    const double top = edge + title + legend;
+    const double cursors = placeCursors(texts.cursors, left, right);
+    const double top = edge + title + legend + cursors;
+    for (PlacedText& cursor : m_layout.cursors)
+        cursor.place.translate(0.0, top);
     const double bottom = m_layout.size.height() - bottomMargin(texts);
     m_layout.plot = QRectF(left, top, std::max(right - left, smallestPlot),
                            std::max(bottom - top, smallestPlot));
@@ -195,6 +201,35 @@ void LayoutWork::endLegend(int names, double left, double right)
         {-1, QRectF(), {text, QRectF(x, y, width, m_measure.height(Style::Text))}});
 }
 
+// Above their lines, best in the middle or else to one side, in as few rows as will do; for the
+// time being from a plot whose top is at 0.
+// @return the height that the rows take
+double LayoutWork::placeCursors(const QVector<TickMark>& cursors, double left, double right)
+{
+    const double height = m_measure.height(Style::Text);
+    const int mostRows = std::max(1, int(mostCursorShare * m_layout.size.height() / height));
+    LabelPlacer placer(QRectF(QPointF(left - tickLabelDistance, -1e9), picture().bottomRight()));
+    int rows = 0;
+    for (const TickMark& cursor : cursors) {
+        const double width = labelSize(cursor.label).width();
+        const double x = left + cursor.place * (right - left);
+        const auto place = [&](int i) { // Three in each row.
+            constexpr double shares[] = {0.5, 0.0, 1.0};
+            return QRectF(x - shares[i % 3] * width, -cursorDistance - (i / 3 + 1) * height, width,
+                          height);
+        };
+        int i = 0;
+        while (i < 3 * mostRows && !placer.isFree(place(i), QSizeF(spacing, 0.0)))
+            ++i;
+        if (i == 3 * mostRows)
+            continue;
+        placer.take(place(i));
+        m_layout.cursors.append({cursor.label.first(), place(i)});
+        rows = std::max(rows, i / 3 + 1);
+    }
+    return rows * height;
+}
+
 void LayoutWork::placeHeadings(const ChartTexts& texts)
 {
     const double height = m_measure.height(Style::Text);
@@ -223,6 +258,8 @@ void LayoutWork::placeTickLabels(const ChartTexts& texts)
     placer.take(m_layout.yCaption.place);
     for (const LegendEntry& entry : std::as_const(m_layout.legend))
         placer.take(entry.name.place);
+    for (const PlacedText& cursor : std::as_const(m_layout.cursors))
+        placer.take(cursor.place);
     placeLabelsOf(texts.xMarks, Qt::AlignHCenter, placer, [&](double place, const QSizeF& size) {
         return QPointF(m_layout.xAt(place) - size.width() / 2.0,
                        m_layout.plot.bottom() + tickLabelDistance);

@@ -31,9 +31,10 @@ struct LegendEntry
 ///     +------------------------------+
 ///     |     title                    |
 ///     |     -- legend   -- legend    |
-///     |   1 +----------------------+ |
-///     | y   |        plot          | |
-///     |   0 +----------------------+ |
+///     |              cursor          |
+///     |   1 +----------+-----------+ |
+///     | y   |     plot o crossing  | |
+///     |   0 +----------+-----------+ |
 ///     |     0          1           2 |
 ///     |              x               |
 ///     +------------------------------+
@@ -53,13 +54,17 @@ struct ChartLayout
     /// The vertical coordinate of a place on the y axis, which runs upwards.
     double yAt(double place) const { return plot.bottom() - place * plot.height(); }
 
+    QPointF at(const QPointF& place) const { return {xAt(place.x()), yAt(place.y())}; }
+
     QSizeF size;
     QRectF plot;
     PlacedText title;
     PlacedText xCaption;
     PlacedText yCaption; ///< Reads upwards: its place is as wide as the text is high.
     QVector<LegendEntry> legend;
+    QVector<PlacedText> cursors;    ///< Those that found room, above the plot.
     QVector<PlacedText> tickLabels; ///< An entry for each line of each label that found room.
+    QVector<PlacedText> crossings;  ///< One for each of the chart, an empty one where is no room.
 };
 
 } // namespace hosts::charting

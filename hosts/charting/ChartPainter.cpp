@@ -1,6 +1,6 @@
 #include "hosts/charting/ChartPainter.h"
 
-#include "hosts/charting/ColumnOrder.h"
+#include "hosts/charting/CrossingLabels.h"
 #include "hosts/charting/PolylineClipper.h"
 
 #include <QLineF>
@@ -63,11 +63,15 @@ void ChartPainter::paint(const Chart& chart, const ChartLayout& layout)
     paintGrid(chart, layout, false);
     paintGrid(chart, layout, true);
     paintTicks(chart, layout);
+    paintCursors(chart, layout);
     for (int i = 0; i < chart.curves.size(); ++i)
         paintCurve(chart, layout, i);
     paintFrame(layout.plot);
+    paintCrossings(chart, layout);
     for (const PlacedText& label : layout.tickLabels)
         paintText(label, Style::Text, m_look.faintText);
+    for (const PlacedText& cursor : layout.cursors)
+        paintText(cursor, Style::Text, m_look.text);
     paintLegend(chart, layout);
     paintHeadings(layout);
 }
@@ -150,15 +154,13 @@ void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int
 {
     const Curve& curve = chart.curves[index];
     const QColor color = m_look.curveColor(index);
-    const auto toPicture = [&](const QPointF& point) {
-        return QPointF(layout.xAt(chart.x.place(point.x())), layout.yAt(chart.y.place(point.y())));
-    };
+    const auto toPicture = [&](const QPointF& point) { return layout.at(chart.placeOf(point)); };
     QPen pen(color, m_look.curveWidth);
     pen.setCapStyle(Qt::RoundCap);
     pen.setJoinStyle(Qt::RoundJoin);
     for (const QVector<QPointF>& polyline : curve.polylines) {
-        QVector<QPointF> points = inColumnOrder(polyline);
-        std::transform(points.cbegin(), points.cend(), points.begin(), toPicture);
+        QVector<QPointF> points = polyline;
+        std::transform(polyline.cbegin(), polyline.cend(), points.begin(), toPicture);
         m_painter.setPen(pen);
         m_painter.setBrush(Qt::NoBrush);
         for (const QVector<QPointF>& piece : clipPolyline(points, layout.plot))
@@ -182,6 +184,43 @@ void ChartPainter::paintMark(const QPointF& centre, double radius, const QColor&
     m_painter.setPen(QPen(color, m_look.curveWidth));
     m_painter.setBrush(fill);
     m_painter.drawEllipse(centre, radius, radius);
+}
+
+void ChartPainter::paintCursors(const Chart& chart, const ChartLayout& layout)
+{
+    setLinePen(m_look.faintText);
+    QPen pen = m_painter.pen();
+    pen.setDashPattern({4.0, 3.0});
+    m_painter.setPen(pen);
+    for (const TickMark& cursor : chart.texts.cursors) {
+        const double x = lineAtX(layout, cursor);
+        m_painter.drawLine(
+            QLineF(x, layout.plot.bottom(), x, layout.plot.top() - m_look.minorTickLength));
+    }
+}
+
+void ChartPainter::paintCrossings(const Chart& chart, const ChartLayout& layout)
+{
+    for (const Crossing& crossing : chart.crossings) {
+        m_painter.setPen(QPen(m_look.curveColor(crossing.curve), m_look.crossingWidth));
+        m_painter.setBrush(m_look.plotBackground);
+        m_painter.drawEllipse(layout.at(crossing.place), m_look.crossingRadius,
+                              m_look.crossingRadius);
+    }
+    QColor fill = m_look.plotBackground;
+    fill.setAlphaF(0.85);
+    for (int i = 0; i < layout.crossings.size(); ++i) {
+        const PlacedText& label = layout.crossings[i];
+        if (label.text.isEmpty())
+            continue;
+        const double half = m_look.gridWidth / 2.0;
+        const double dx = crossingPadding.width() - half;
+        const double dy = crossingPadding.height() - half;
+        m_painter.setPen(QPen(m_look.curveColor(chart.crossings[i].curve), m_look.gridWidth));
+        m_painter.setBrush(fill);
+        m_painter.drawRoundedRect(label.place.adjusted(-dx, -dy, dx, dy), 3.0, 3.0);
+        paintText(label, Style::Text, m_look.text);
+    }
 }
 
 void ChartPainter::paintLegend(const Chart& chart, const ChartLayout& layout)

@@ -27,6 +27,8 @@ private:
     void paintFrame(const QRectF& plot);
     void paintCurve(const Chart& chart, const ChartLayout& layout, int index);
     void paintMark(const QPointF& centre, double radius, const QColor& color, const QColor& fill);
+    void paintCursors(const Chart& chart, const ChartLayout& layout);
+    void paintCrossings(const Chart& chart, const ChartLayout& layout);
     void paintLegend(const Chart& chart, const ChartLayout& layout);
     void paintHeadings(const ChartLayout& layout);
     void paintText(const PlacedText& text, TextMeasure::Style style, const QColor& color);

@@ -33,6 +33,8 @@ struct Look
     double curveWidth = 1.25;
     double symbolRadius = 2.6;
     double dotRadius = 1.2; ///< Of the dot for a sample that stands alone.
+    double crossingRadius = 4.0;
+    double crossingWidth = 2.0;
     double majorTickLength = 5.0;
     double minorTickLength = 3.0;
     int textSize = 12;

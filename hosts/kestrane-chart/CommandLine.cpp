@@ -49,6 +49,10 @@ void checkNumbers(const RawOptions& raw)
         if (value && !std::isfinite(*value))
             throw UsageError(QStringLiteral("%1: not a finite number").arg(QLatin1String(name)));
     }
+    for (const double cursor : raw.cursors) {
+        if (!std::isfinite(cursor))
+            throw UsageError(QStringLiteral("--cursor: not a finite number"));
+    }
     if (raw.step && !(*raw.step > 0.0))
         throw UsageError(QStringLiteral("--step: must be greater than 0"));
     for (const int channel : raw.channels) {
@@ -170,6 +174,7 @@ Options optionsOf(const RawOptions& raw)
     options.title = text(raw.title);
     options.legend = texts(raw.legend);
     options.showLegend = !raw.noLegend;
+    options.cursors = QVector<double>(raw.cursors.begin(), raw.cursors.end());
     options.isDark = raw.look == "dark";
     options.symbolSpacing = raw.symbols;
     options.size = readSize(raw.size);

@@ -1,19 +1,14 @@
 #include "hosts/kestrane-chart/Drawing.h"
 
+#include "hosts/charting/CrossingLabels.h"
 #include "hosts/charting/FontMeasure.h"
-#include "hosts/charting/StraightLines.h"
-#include "hosts/kestrane-chart/AxisKind.h"
-#include "hosts/kestrane-chart/Extent.h"
+#include "hosts/kestrane-chart/Plot.h"
 #include "hosts/kestrane-chart/UsageError.h"
 #include "hosts/kestrane-chart/WorkError.h"
 
 #include <kestrane/backend/QuantityManager.h>
-#include <kestrane/plots/SamplePlotAlgorithm.h>
 
 #include <algorithm>
-#include <cmath>
-#include <iterator>
-#include <utility>
 
 namespace hosts::chart {
 
@@ -21,23 +16,14 @@ using charting::AxisView;
 using charting::Chart;
 using charting::ChartLayout;
 using charting::ChartTexts;
-using charting::Curve;
 using charting::Look;
-using charting::ShownAxis;
-using charting::StraightLines;
-using data::Series;
-using pelorin::backend::PlotSegment;
-using pelorin::backend::PlotSnapshot;
+using charting::TickMark;
 using pelorin::ui::chart::Axis;
-using pelorin::ui::chart::SamplePlotAlgorithm;
 using pelorin::utilities::Singleton;
 using pelorin::variables::Quantity;
 using pelorin::variables::QuantityManager;
 
 namespace {
-
-constexpr int pixelsPerXDivision = 100;
-constexpr int pixelsPerYDivision = 60;
 
 // Line ends and their like have no picture, and no place in an SVG.
 QString printable(QString text)
@@ -47,11 +33,6 @@ QString printable(QString text)
             c = QLatin1Char(' ');
     }
     return text;
-}
-
-int divisionsIn(int length, int pixelsPerDivision)
-{
-    return std::clamp(length / pixelsPerDivision, 2, 30);
 }
 
 // A unit that is to be written as it is, is a quantity of its own whose unit takes no prefix.
@@ -66,100 +47,30 @@ QString quantityOf(const AxisOptions& axis)
     return name;
 }
 
-ShownAxis xAxis(const std::vector<Series>& series, const Options& options)
+// The cursors as they were asked for, and where they stand.
+QVector<TickMark> cursorMarks(const AxisView& x, const QVector<double>& cursors)
 {
-    const AxisKind& kind = *options.x.kind;
-    if (!Extent::ofAbscissas(series, Extent::asItIs))
-        throw WorkError(QStringLiteral("there are no samples to draw"));
-    return kind.forAbscissas(options.x, Extent::ofAbscissas(series, kind.measure()),
-                             divisionsIn(options.size.width(), pixelsPerXDivision));
-}
-
-// A sample between two gaps has no line, so it needs a mark of its own at any distance.
-QVector<QPointF> loneSamples(const Series& series, const AxisView& x, const AxisView& y,
-                             double columnWidth)
-{
-    std::vector<PlotSegment> alone;
-    const auto& segments = series.snapshot.segments;
-    std::copy_if(segments.begin(), segments.end(), std::back_inserter(alone),
-                 [](const PlotSegment& segment) { return segment.count == 1; });
-    SamplePlotAlgorithm algorithm;
-    algorithm.setSnapshot(PlotSnapshot(std::move(alone)));
-    QVector<QPointF> points;
-    for (const QVector<QPointF>& symbols :
-         algorithm.createSegments(x.axis(), y.axis(), columnWidth, 0.0).second)
-        points += symbols;
-    return points;
-}
-
-// Whether symbols suit is judged by the distance of samples at the left; on a logarithmic axis they
-// crowd further right.
-QVector<QPointF> uncrowded(const QVector<QPointF>& symbols, double distance)
-{
-    const double least = distance * (1.0 - 1e-6); // Rounding must not thin out a regular row.
-    QVector<QPointF> apart;
-    for (int i = 0; i < symbols.size(); ++i) {
-        const double x = symbols[i].x();
-        const bool isNearPrevious = i > 0 && x - symbols[i - 1].x() < least;
-        const bool isNearNext = i + 1 < symbols.size() && symbols[i + 1].x() - x < least;
-        if (!isNearPrevious && !isNearNext)
-            apart.append(symbols[i]);
+    constexpr double rounding = 1e-9;
+    QVector<TickMark> marks;
+    for (const double cursor : cursors) {
+        const double place = x.place(x.axis()->transform(Axis::Linear, cursor));
+        if (!(place >= -rounding && place <= 1.0 + rounding))
+            throw WorkError(QStringLiteral("--cursor %1: out of sight; x goes from %2 to %3")
+                                .arg(cursor, 0, 'g', 15)
+                                .arg(x.textOf(x.from()), x.textOf(x.to())));
+        marks.append({std::clamp(place, 0.0, 1.0), false, {x.textOf(cursor, 1e-6)}});
     }
-    return apart;
+    return marks;
 }
 
-Curve curveOf(const Series& series, const AxisView& x, const AxisView& y, double plotWidth,
-              const Options& options)
+QStringList curveNames(const Plot& plot, const Options& options)
 {
-    const double columnWidth = x.visible() / (plotWidth * options.deviceScale());
-    const double symbolColumns = options.symbolSpacing * options.deviceScale();
-    SamplePlotAlgorithm algorithm;
-    algorithm.setSnapshot(StraightLines::whereTheySuit(series.snapshot, y.axis()));
-    auto segments = algorithm.createSegments(x.axis(), y.axis(), columnWidth, symbolColumns);
-    for (QVector<QPointF>& symbols : segments.second)
-        symbols = uncrowded(symbols, symbolColumns * columnWidth);
-    return {segments.first, segments.second, loneSamples(series, x, y, columnWidth)};
-}
-
-// What is to be seen of the curves: between samples a spline goes beyond them.
-Extent extentOfCurves(const std::vector<Series>& series, const AxisView& x, const AxisView& y,
-                      const Extent& data, const Options& options)
-{
-    Extent extent = data;
-    for (const Series& one : series) {
-        for (const auto& polyline : curveOf(one, x, y, options.size.width(), options).polylines) {
-            for (const QPointF& point : polyline) {
-                if (point.x() >= 0.0 && point.x() <= x.visible())
-                    extent.take(y.axis()->inverseTransform(Axis::Linear, point.y()));
-            }
-        }
-    }
-    return extent;
-}
-
-ShownAxis yAxis(const std::vector<Series>& series, const AxisView& x, const Options& options)
-{
-    const AxisKind& kind = *options.y.kind;
-    const std::optional<Extent> data = Extent::ofValues(series, x.from(), x.to());
-    if (!data)
-        throw WorkError(options.x.rangeText() + QStringLiteral(": a gap in the data"));
-    return kind.forValues(
-        options.y, Extent::ofValues(series, x.from(), x.to(), kind.measure()),
-        [&](const ShownAxis& y) {
-            return extentOfCurves(series, x, AxisView(y, QString()), *data, options);
-        },
-        divisionsIn(options.size.height(), pixelsPerYDivision));
-}
-
-QStringList curveNames(const std::vector<Series>& series, const Options& options)
-{
-    if (options.legend.size() > int(series.size()))
+    const QStringList ownNames = plot.names();
+    if (options.legend.size() > ownNames.size())
         throw UsageError(QStringLiteral("--legend: there are %1 names, but only %2 to draw")
                              .arg(options.legend.size())
-                             .arg(series.size()));
-    QStringList names = options.legend;
-    for (int i = int(names.size()); i < int(series.size()); ++i)
-        names.append(series[std::size_t(i)].name);
+                             .arg(ownNames.size()));
+    QStringList names = options.legend + ownNames.mid(options.legend.size());
     std::transform(names.begin(), names.end(), names.begin(), printable);
     return names;
 }
@@ -175,21 +86,24 @@ ChartTexts textsOf(const AxisView& x, const AxisView& y, const QStringList& name
         texts.legend = names;
     texts.xMarks = x.marks();
     texts.yMarks = y.marks();
+    texts.cursors = cursorMarks(x, options.cursors);
     return texts;
 }
 
 } // namespace
 
-Drawing Drawing::of(const std::vector<Series>& series, const Options& options)
+Drawing Drawing::of(const std::vector<data::Series>& series, const Options& options)
 {
-    const AxisView x(xAxis(series, options), quantityOf(options.x), options.x.reference);
-    const AxisView y(yAxis(series, x, options), quantityOf(options.y), options.y.reference);
-    Chart chart = {textsOf(x, y, curveNames(series, options), options), x, y, {}};
+    const std::unique_ptr<Plot> plot = Plot::of(series, options);
+    const AxisView x(plot->xAxis(), quantityOf(options.x), options.x.reference);
+    const AxisView y(plot->yAxis(x), quantityOf(options.y), options.y.reference);
+    Chart chart = {textsOf(x, y, curveNames(*plot, options), options), x, y, {}, {}};
     const Look look = options.isDark ? Look::dark() : Look::light();
-    const ChartLayout layout =
-        ChartLayout::of(options.size, chart.texts, charting::FontMeasure(look));
-    for (const Series& one : series)
-        chart.curves.append(curveOf(one, x, y, layout.plot.width(), options));
+    const charting::FontMeasure measure(look);
+    ChartLayout layout = ChartLayout::of(options.size, chart.texts, measure);
+    chart.curves = plot->curves(x, y, layout.plot.width());
+    chart.crossings = plot->crossings(x, y);
+    layout.crossings = charting::placeCrossings(chart, layout, measure);
     return {look, chart, layout};
 }
 

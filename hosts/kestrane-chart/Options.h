@@ -7,6 +7,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <QVector>
 
 namespace hosts::chart {
 
@@ -28,6 +29,7 @@ struct Options
     QString title;
     QStringList legend; ///< Names in place of those of the data.
     bool showLegend = true;
+    QVector<double> cursors; ///< Values of x.
     bool isDark = false;
     double symbolSpacing = 8.0; ///< In logical pixels.
     QSize size = {1000, 600};   ///< In logical pixels.

@@ -29,6 +29,10 @@ Kinds of axes
   bipolar  such an axis for each sign, end to end, with equal limits. They meet at the joint, by
            default six decades below the limits at the most; what is nearer to 0 lies on it.
 
+Cursors
+  A ring marks where a cursor crosses a curve within the picture, with the value of the curve as it
+  is drawn: between two samples that of the spline, on a log or bipolar y axis of a straight line.
+
 Pictures
   The ending of the output's name says what it becomes. A picture of 1000x600 has as many pixels
   at 96 dpi, four times as many at 192; lettering and lines grow with it.
@@ -38,6 +42,7 @@ Exit status: 0 done; 1 it could not be done; 2 wrong usage. A picture is written
 Examples
   kestrane-chart ecg.csv --step 0.0027777778 --x-quantity time --y-unit mV -o ecg.png
   kestrane-chart eeg.csv --column Fz --column Cz --from 2 --to 4 --look dark -o eeg.svg
+  kestrane-chart eeg.csv --column Fz --from 2 --to 4 --cursor 2.5 --cursor 3.1 -o alpha.png
   kestrane-chart voice.flac --x-quantity time --title Voice --dpi 192 -o voice.png
   kestrane-chart voice.flac --show spectrum --x-axis log --y-axis log -o spectrum.png)";
 
@@ -126,6 +131,9 @@ void addPictureOptions(CLI::App& app, RawOptions& raw)
         ->allow_extra_args(false);
     app.add_flag("--no-legend", raw.noLegend, "No legend; else there is one for several curves")
         ->group("Picture");
+    add("--cursor", raw.cursors, "X",
+        "Vertical line at X that tells the values of the curves there; repeatable")
+        ->allow_extra_args(false);
     add("--symbols", raw.symbols, "N", "Mark samples that are at least N pixels apart, default 8");
     add("--look", raw.look, "WHICH", "light, the default, or dark")
         ->check(CLI::IsMember({"light", "dark"}));

@@ -23,6 +23,7 @@ struct RawOptions
     std::vector<int> channels;
     std::string timeColumn;
     std::vector<std::string> legend;
+    std::vector<double> cursors;
     std::string title;
     std::string show = "values";
     std::string xKind = "linear";

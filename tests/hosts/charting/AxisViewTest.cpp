@@ -86,6 +86,31 @@ TEST(AxisViewTest, TheJointOfABipolarAxisHasTwoLinesAndAsManyDigitsAsItsValue)
     EXPECT_NE(decade.find("|1/-1|"), std::string::npos) << decade;
 }
 
+TEST(AxisViewTest, AValueHasTheDigitsThatTellItApartAndTheUnitOfTheLabels)
+{
+    using namespace pelorin::utilities;
+    Singleton<TranslationManager>::instance().setLocale(QStringLiteral("C"));
+    const auto linear = AxisDivision::of(0.0, 0.01, 5, TickPlaces::Moving).shown();
+    const struct
+    {
+        ShownAxis axis;
+        double value;
+        const char* text;
+        double share = 1e-3, reference = std::nan("");
+    } cases[] = {
+        {linear, 0.00123456, "1.235 mV"},
+        {linear, 0.00123456, "1.23456 mV", 1e-6},
+        {linear, 0.005, "5 mV"},
+        {linear, 1e-12, "0 mV"},
+        {linear, 0.0043219, "-0.678 mV", 1e-3, 0.005},
+        {LogRange{0.001, 1.0}.shown(), 0.0034567, "3.457 mV"},
+        {{QSharedPointer<BipolarAxis>::create(0.001, 1.0)}, -0.25, "-250 mV"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(AxisView(c.axis, "voltage", c.reference).textOf(c.value, c.share).toStdString(),
+                  c.text);
+}
+
 } // namespace
 
 } // namespace hosts::charting

@@ -33,8 +33,8 @@ void expectApartAndInside(const ChartLayout& layout)
     QVector<QRectF> places = {layout.title.place, layout.xCaption.place, layout.yCaption.place};
     for (const LegendEntry& entry : layout.legend)
         places.append(entry.name.place);
-    for (const PlacedText& label : layout.tickLabels)
-        places.append(label.place);
+    for (const PlacedText& text : layout.tickLabels + layout.cursors)
+        places.append(text.place);
     for (int i = 0; i < places.size(); ++i) {
         EXPECT_TRUE(places[i].isEmpty() || picture.contains(places[i])) << i;
         EXPECT_FALSE(places[i].intersects(layout.plot)) << i;
@@ -66,6 +66,8 @@ TEST(ChartLayoutTest, TextsNeverOverlapNorPassTheEdge)
             texts.xMarks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('1'))));
             texts.yMarks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('2'))));
         }
+        for (int n = upTo(9); n > 0; --n)
+            texts.cursors.append(mark(upTo(20) / 20.0, QString(1 + upTo(12), QLatin1Char('c'))));
         expectApartAndInside(
             ChartLayout::of(QSizeF(300 + upTo(900), 220 + upTo(600)), texts, typewriter));
     }
@@ -108,6 +110,23 @@ TEST(ChartLayoutTest, TheLegendCountsTheNamesThatHaveNoRoom)
     EXPECT_GT(layout.plot.height(), 150.0);
     texts.legend = texts.legend.mid(0, 3);
     EXPECT_EQ(ChartLayout::of(QSizeF(500, 300), texts, typewriter).legend.last().curve, 2);
+}
+
+TEST(ChartLayoutTest, CursorsHaveTheirValuesAboveTheirLinesInAsManyRowsAsTheyNeed)
+{
+    ChartTexts texts;
+    for (const double place : {0.0, 1.0, 0.5, 0.51, 0.52})
+        texts.cursors.append(mark(place, QStringLiteral("12345 ms")));
+    const ChartLayout layout = ChartLayout::of(QSizeF(500, 300), texts, typewriter);
+    expectApartAndInside(layout);
+    ASSERT_EQ(layout.cursors.size(), 5);
+    for (int i = 0; i < 5; ++i) {
+        const QRectF& place = layout.cursors[i].place;
+        const double x = layout.xAt(texts.cursors[i].place);
+        EXPECT_TRUE(place.left() <= x && x <= place.right()) << i;
+        EXPECT_NEAR(layout.plot.top() - place.bottom(), i < 3 ? 5.0 : i * 14.0 - 37.0, 14.01) << i;
+    }
+    EXPECT_EQ(layout.cursors[2].place.center().x(), layout.xAt(0.5));
 }
 
 } // namespace

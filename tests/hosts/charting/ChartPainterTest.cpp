@@ -21,7 +21,7 @@ Chart chartOf(const QVector<QVector<QPointF>>& polylines, int divisions = 4)
     texts.yMarks = axis.marks();
     Curve curve;
     curve.polylines = polylines;
-    return {texts, axis, axis, QVector<Curve>(1, curve)};
+    return {texts, axis, axis, QVector<Curve>(1, curve), {}};
 }
 
 struct Picture

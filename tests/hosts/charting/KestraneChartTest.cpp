@@ -116,6 +116,38 @@ TEST(KestraneChartTest, ShowsASpectrumOverFrequency)
     EXPECT_TRUE(chart.read("out.svg").contains(">500 Hz<"));
 }
 
+TEST(KestraneChartTest, ACursorTellsItsPlaceAndTheValuesOfAllCurvesThere)
+{
+    ChartRun chart;
+    chart.write("in.csv", "time,a,b\n1,10,-4.3\n2,20,-5.3\n3,30,\n4,40,-7.3\n5,50,-8.3\n");
+    const struct
+    {
+        const char* options;
+        QStringList there, notThere;
+    } cases[] = {
+        {"--cursor 1.7 --cursor 5", {">1.7 s<", ">17 mV<", ">5 s<", ">50 mV<", ">-8.3 mV<"}, {}},
+        {"--cursor 1", {">10 mV<", ">-4.3 mV<"}, {">12 mV<"}},
+        {"--cursor 3", {">30 mV<"}, {">-5.3 mV<", ">-7.3 mV<"}},
+        {"--cursor 2.5 --top 22", {}, {">25 mV<"}},
+        {"--cursor 2.5 --x-axis fixed --x-relative 5", {">-2.5 s<", ">25 mV<"}, {}},
+        {"--cursor 2.5 --x-axis log", {">2.5 s<", ">25 mV<"}, {}},
+        {"--cursor -1.5 --start -3 --x-axis bipolar", {">-1.5 s<", ">25 mV<"}, {}},
+        {"--cursor 1.5 --y-axis log", {">14.14 mV<"}, {}},
+    };
+    for (const auto& c : cases) {
+        ASSERT_EQ(chart.run(QString(c.options).split(' ') + QStringList{"in.csv", "-o", "out.svg",
+                                                                        "--x-quantity", "time",
+                                                                        "--y-unit", "mV"}),
+                  0)
+            << c.options;
+        const QString svg = QString::fromUtf8(chart.read("out.svg"));
+        for (const QString& text : c.there)
+            EXPECT_TRUE(svg.contains(text)) << c.options << text.toStdString();
+        for (const QString& text : c.notThere)
+            EXPECT_FALSE(svg.contains(text)) << c.options << text.toStdString();
+    }
+}
+
 TEST(KestraneChartTest, WritesVectorFormatsThatOthersCanRead)
 {
     ChartRun chart;

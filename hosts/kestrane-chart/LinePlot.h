@@ -1,0 +1,24 @@
+#ifndef HOSTS_KESTRANE_CHART_LINEPLOT_H
+#define HOSTS_KESTRANE_CHART_LINEPLOT_H
+
+#include "hosts/kestrane-chart/Plot.h"
+
+namespace hosts::chart {
+
+/// Each series as a curve over x.
+class LinePlot : public Plot
+{
+public:
+    LinePlot(const std::vector<data::Series>& series, const Options& options);
+
+    charting::ShownAxis xAxis() const override;
+    charting::ShownAxis yAxis(const charting::AxisView& x) const override;
+    QVector<charting::Curve> curves(const charting::AxisView& x, const charting::AxisView& y,
+                                    double plotWidth) const override;
+    QVector<charting::Crossing> crossings(const charting::AxisView& x,
+                                          const charting::AxisView& y) const override;
+};
+
+} // namespace hosts::chart
+
+#endif

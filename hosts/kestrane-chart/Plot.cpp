@@ -1,0 +1,67 @@
+#include "hosts/kestrane-chart/Plot.h"
+
+#include "hosts/kestrane-chart/LinePlot.h"
+
+#include <algorithm>
+
+namespace hosts::chart {
+
+using charting::AxisView;
+using data::Series;
+
+namespace {
+
+constexpr int pixelsPerXDivision = 100;
+constexpr int pixelsPerYDivision = 60;
+
+int divisionsIn(int length, int pixelsPerDivision)
+{
+    return std::clamp(length / pixelsPerDivision, 2, 30);
+}
+
+} // namespace
+
+std::unique_ptr<Plot> Plot::of(const std::vector<Series>& series, const Options& options)
+{
+    return std::make_unique<LinePlot>(series, options);
+}
+
+Plot::Plot(const std::vector<Series>& series, const Options& options)
+    : m_series(series)
+    , m_options(options)
+{}
+
+QVector<charting::Crossing> Plot::crossings(const AxisView&, const AxisView&) const
+{
+    return {};
+}
+
+QStringList Plot::names() const
+{
+    QStringList names;
+    for (const Series& one : m_series)
+        names.append(one.name);
+    return names;
+}
+
+int Plot::wantedXDivisions() const
+{
+    return divisionsIn(m_options.size.width(), pixelsPerXDivision);
+}
+
+int Plot::wantedYDivisions() const
+{
+    return divisionsIn(m_options.size.height(), pixelsPerYDivision);
+}
+
+double Plot::columnWidth(const AxisView& x, double plotWidth) const
+{
+    return x.visible() / (plotWidth * m_options.deviceScale());
+}
+
+double Plot::symbolSpacing() const
+{
+    return m_options.symbolSpacing * m_options.deviceScale();
+}
+
+} // namespace hosts::chart
