@@ -40,9 +40,9 @@ public:
         if (!found)
             return {};
         m_taken.take(*found);
-        return {crossing.label, found->adjusted(crossingPadding.width(), crossingPadding.height(),
-                                                -crossingPadding.width(),
-                                                -crossingPadding.height())};
+        return {crossing.label,
+                found->adjusted(crossingPadding.width(), crossingPadding.height(),
+                                -crossingPadding.width(), -crossingPadding.height())};
     }
 
 private:
@@ -53,8 +53,8 @@ private:
         return {centre - radius, centre + radius};
     }
 
-    // In order of distance: as high as the mark, then half a height higher, half a height lower, ...
-    // and each time to the right, to the left, in the middle.
+    // In order of distance: as high as the mark, then half a height higher, half a height lower,
+    // ... and each time to the right, to the left, in the middle.
     QRectF candidate(const Crossing& crossing, const QSizeF& size, int step, int side) const
     {
         const QRectF mark = markOf(crossing);

@@ -53,6 +53,9 @@ void checkNumbers(const RawOptions& raw)
         if (!std::isfinite(cursor))
             throw UsageError(QStringLiteral("--cursor: not a finite number"));
     }
+    if (!raw.cursors.empty() && raw.plot != "line")
+        throw UsageError(QStringLiteral("--cursor: only lines have crossings, not --plot %1")
+                             .arg(text(raw.plot)));
     if (raw.step && !(*raw.step > 0.0))
         throw UsageError(QStringLiteral("--step: must be greater than 0"));
     for (const int channel : raw.channels) {
@@ -123,6 +126,11 @@ Show showOf(const RawOptions& raw)
                                     : Show::Values;
 }
 
+Draw drawOf(const RawOptions& raw)
+{
+    return raw.plot == "xy" ? Draw::XY : raw.plot == "needles" ? Draw::Needles : Draw::Lines;
+}
+
 AxisOptions xOptionsOf(const RawOptions& raw)
 {
     AxisOptions x;
@@ -169,6 +177,9 @@ Options optionsOf(const RawOptions& raw)
     options.output = text(raw.output);
     options.read = readOptionsOf(raw);
     options.show = showOf(raw);
+    options.draw = drawOf(raw);
+    if (options.draw == Draw::XY && raw.timeColumn.empty())
+        options.read.timeColumn = QStringLiteral("none");
     options.x = xOptionsOf(raw);
     options.y = yOptionsOf(raw);
     options.title = text(raw.title);

@@ -75,13 +75,13 @@ QStringList curveNames(const Plot& plot, const Options& options)
     return names;
 }
 
-ChartTexts textsOf(const AxisView& x, const AxisView& y, const QStringList& names,
-                   const Options& options)
+ChartTexts textsOf(const AxisView& x, const AxisView& y, const Plot& plot, const Options& options)
 {
+    const QStringList names = curveNames(plot, options);
     ChartTexts texts;
     texts.title = printable(options.title);
-    texts.xCaption = printable(options.x.caption);
-    texts.yCaption = printable(options.y.caption);
+    texts.xCaption = printable(options.x.caption.isEmpty() ? plot.xCaption() : options.x.caption);
+    texts.yCaption = printable(options.y.caption.isEmpty() ? plot.yCaption() : options.y.caption);
     if (options.showLegend && (names.size() > 1 || !options.legend.isEmpty()))
         texts.legend = names;
     texts.xMarks = x.marks();
@@ -97,7 +97,7 @@ Drawing Drawing::of(const std::vector<data::Series>& series, const Options& opti
     const std::unique_ptr<Plot> plot = Plot::of(series, options);
     const AxisView x(plot->xAxis(), quantityOf(options.x), options.x.reference);
     const AxisView y(plot->yAxis(x), quantityOf(options.y), options.y.reference);
-    Chart chart = {textsOf(x, y, curveNames(*plot, options), options), x, y, {}, {}};
+    Chart chart = {textsOf(x, y, *plot, options), x, y, {}, {}};
     const Look look = options.isDark ? Look::dark() : Look::light();
     const charting::FontMeasure measure(look);
     ChartLayout layout = ChartLayout::of(options.size, chart.texts, measure);

@@ -9,14 +9,6 @@ using pelorin::backend::PlotSegment;
 
 namespace {
 
-void widen(std::optional<Extent>& extent, double value)
-{
-    if (!extent && std::isfinite(value))
-        extent = Extent{value, value};
-    if (extent)
-        extent->take(value);
-}
-
 double abscissaOf(const PlotSegment& segment, double index)
 {
     return index * segment.xInfo.scale + segment.xInfo.offset;
@@ -31,7 +23,7 @@ void takeAbscissas(std::optional<Extent>& extent, const PlotSegment& segment,
     const double last = double(segment.count - 1);
     const double zero = std::round(-segment.xInfo.offset / segment.xInfo.scale);
     for (const double index : {0.0, zero - 1.0, zero, zero + 1.0, last})
-        widen(extent, measure(abscissaOf(segment, std::clamp(index, 0.0, last))));
+        Extent::widen(extent, measure(abscissaOf(segment, std::clamp(index, 0.0, last))));
 }
 
 void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, double from, double to,
@@ -46,7 +38,7 @@ void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, doubl
     const auto first = std::ptrdiff_t(std::clamp(ends.first, 0.0, last));
     const auto end = std::ptrdiff_t(std::clamp(ends.second, 0.0, last)) + 1;
     for (auto sample = segment.begin + first; sample != segment.begin + end; ++sample)
-        widen(extent, measure(*sample));
+        Extent::widen(extent, measure(*sample));
 }
 
 } // namespace
@@ -57,6 +49,14 @@ void Extent::take(double value)
         return;
     low = std::min(low, value);
     high = std::max(high, value);
+}
+
+void Extent::widen(std::optional<Extent>& extent, double value)
+{
+    if (!extent && std::isfinite(value))
+        extent = Extent{value, value};
+    if (extent)
+        extent->take(value);
 }
 
 std::optional<Extent> Extent::ofAbscissas(const std::vector<data::Series>& series, Measure measure)

@@ -22,6 +22,9 @@ struct Extent
     /// Widens it to hold @p value, if that is finite.
     void take(double value);
 
+    /// Likewise; the first finite value makes an extent of @p extent.
+    static void widen(std::optional<Extent>& extent, double value);
+
     /// Of the abscissas of all samples; none without samples that count. O(segments).
     /// @param measure monotonic on either side of 0
     static std::optional<Extent> ofAbscissas(const std::vector<data::Series>& series,

@@ -2,8 +2,8 @@
 
 #include "hosts/charting/ColumnOrder.h"
 #include "hosts/charting/StraightLines.h"
+#include "hosts/charting/Symbols.h"
 #include "hosts/kestrane-chart/AxisKind.h"
-#include "hosts/kestrane-chart/Extent.h"
 #include "hosts/kestrane-chart/WorkError.h"
 
 #include <kestrane/plots/SamplePlotAlgorithm.h>
@@ -46,22 +46,6 @@ QVector<QPointF> loneSamples(const Series& series, const AxisView& x, const Axis
     return points;
 }
 
-// Whether symbols suit is judged by the distance of samples at the left; on a logarithmic axis they
-// crowd further right.
-QVector<QPointF> uncrowded(const QVector<QPointF>& symbols, double distance)
-{
-    const double least = distance * (1.0 - 1e-6); // Rounding must not thin out a regular row.
-    QVector<QPointF> apart;
-    for (int i = 0; i < symbols.size(); ++i) {
-        const double x = symbols[i].x();
-        const bool isNearPrevious = i > 0 && x - symbols[i - 1].x() < least;
-        const bool isNearNext = i + 1 < symbols.size() && symbols[i + 1].x() - x < least;
-        if (!isNearPrevious && !isNearNext)
-            apart.append(symbols[i]);
-    }
-    return apart;
-}
-
 Curve curveOf(const Series& series, const AxisView& x, const AxisView& y, double columnWidth,
               double symbolSpacing)
 {
@@ -71,7 +55,7 @@ Curve curveOf(const Series& series, const AxisView& x, const AxisView& y, double
     for (QVector<QPointF>& polyline : segments.first)
         polyline = charting::inColumnOrder(polyline);
     for (QVector<QPointF>& symbols : segments.second)
-        symbols = uncrowded(symbols, symbolSpacing * columnWidth);
+        symbols = charting::uncrowdedSymbols(symbols, symbolSpacing * columnWidth);
     return {segments.first, segments.second, loneSamples(series, x, y, columnWidth)};
 }
 
@@ -91,14 +75,14 @@ Extent extentOfCurves(const QVector<Curve>& curves, const AxisView& x, const Sho
     return extent;
 }
 
-// Beside the very place too, by less than can be seen: rounding can put a cursor on the first sample
-// just before it, and no curve counts as crossed at its last sample.
+// Beside the very place too, by less than can be seen: rounding can put a cursor on the first
+// sample just before it, and no curve counts as crossed at its last sample.
 QList<Intersection> crossingsAt(double position, const SamplePlotAlgorithm& algorithm,
                                 const AxisView& x, const AxisView& y)
 {
     for (const double share : {0.0, 1e-9, -1e-9}) {
-        const QList<Intersection> crossings = algorithm.doIntersect(
-            x.axis().data(), y.axis().data(), position + share * x.visible());
+        const QList<Intersection> crossings =
+            algorithm.doIntersect(x.axis().data(), y.axis().data(), position + share * x.visible());
         if (!crossings.isEmpty())
             return crossings;
     }
@@ -124,16 +108,21 @@ ShownAxis LinePlot::xAxis() const
 ShownAxis LinePlot::yAxis(const AxisView& x) const
 {
     const AxisKind& kind = *options().y.kind;
-    const std::optional<Extent> data = Extent::ofValues(series(), x.from(), x.to());
-    if (!data)
-        throw WorkError(options().x.rangeText() + QStringLiteral(": a gap in the data"));
+    const Extent data = *valuesInSight(x, Extent::asItIs);
     return kind.forValues(
-        options().y, Extent::ofValues(series(), x.from(), x.to(), kind.measure()),
+        options().y, valuesInSight(x, kind.measure()),
         [&](const ShownAxis& y) {
             const double width = options().size.width();
-            return extentOfCurves(curves(x, AxisView(y, QString()), width), x, y, *data);
+            return extentOfCurves(curves(x, AxisView(y, QString()), width), x, y, data);
         },
         wantedYDivisions());
+}
+
+std::optional<Extent> LinePlot::valuesInSight(const AxisView& x, Extent::Measure measure) const
+{
+    if (!Extent::ofValues(series(), x.from(), x.to()))
+        throw WorkError(options().x.rangeText() + QStringLiteral(": a gap in the data"));
+    return Extent::ofValues(series(), x.from(), x.to(), measure);
 }
 
 QVector<Curve> LinePlot::curves(const AxisView& x, const AxisView& y, double plotWidth) const

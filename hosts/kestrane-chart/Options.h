@@ -14,6 +14,9 @@ namespace hosts::chart {
 /// What is to be drawn of a recording.
 enum class Show { Values, Slope, Spectrum };
 
+/// As what it is to be drawn.
+enum class Draw { Lines, XY, Needles };
+
 /// The whole command line, checked as far as that can be done without the data.
 struct Options
 {
@@ -24,6 +27,7 @@ struct Options
     QString output;
     data::ReadOptions read;
     Show show = Show::Values;
+    Draw draw = Draw::Lines;
     AxisOptions x;
     AxisOptions y;
     QString title;

@@ -1,6 +1,8 @@
 #include "hosts/kestrane-chart/Plot.h"
 
 #include "hosts/kestrane-chart/LinePlot.h"
+#include "hosts/kestrane-chart/NeedlePlot.h"
+#include "hosts/kestrane-chart/XYPlot.h"
 
 #include <algorithm>
 
@@ -23,6 +25,14 @@ int divisionsIn(int length, int pixelsPerDivision)
 
 std::unique_ptr<Plot> Plot::of(const std::vector<Series>& series, const Options& options)
 {
+    switch (options.draw) {
+    case Draw::Needles:
+        return std::make_unique<NeedlePlot>(series, options);
+    case Draw::XY:
+        return std::make_unique<XYPlot>(series, options);
+    case Draw::Lines:
+        break;
+    }
     return std::make_unique<LinePlot>(series, options);
 }
 

@@ -32,8 +32,8 @@ public:
     virtual charting::ShownAxis yAxis(const charting::AxisView& x) const = 0;
 
     /// @param plotWidth in logical pixels
-    virtual QVector<charting::Curve> curves(const charting::AxisView& x, const charting::AxisView& y,
-                                            double plotWidth) const = 0;
+    virtual QVector<charting::Curve>
+    curves(const charting::AxisView& x, const charting::AxisView& y, double plotWidth) const = 0;
 
     /// Where the cursors that the options ask for cross the curves; none in a plot without them.
     virtual QVector<charting::Crossing> crossings(const charting::AxisView& x,
@@ -41,6 +41,10 @@ public:
 
     /// The name of each curve.
     virtual QStringList names() const;
+
+    /// What the axes are, as far as the data tell.
+    virtual QString xCaption() const { return {}; }
+    virtual QString yCaption() const { return {}; }
 
 protected:
     Plot(const std::vector<data::Series>& series, const Options& options);

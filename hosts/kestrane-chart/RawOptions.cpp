@@ -17,6 +17,12 @@ constexpr auto footer = R"(Data
   --show slope draws the change from sample to sample over the distance of x; --show spectrum the
   amplitudes in the longest run without a gap, over frequency, in hertz with --x-quantity time.
 
+Kinds of plots
+  line     each column or channel over x
+  xy       the second of two columns over the first, in the order of the rows; there is no time
+           column then unless --time-column names one
+  needles  a stick for each sample, standing on 0; of those in a column of pixels the longest
+
 Ranges
   --from, --to, --bottom and --top are kept exactly. What is left open follows from the data: x
   covers them and ends on a tick, y leaves some room above and below.
@@ -44,6 +50,7 @@ Examples
   kestrane-chart eeg.csv --column Fz --column Cz --from 2 --to 4 --look dark -o eeg.svg
   kestrane-chart eeg.csv --column Fz --from 2 --to 4 --cursor 2.5 --cursor 3.1 -o alpha.png
   kestrane-chart voice.flac --x-quantity time --title Voice --dpi 192 -o voice.png
+  kestrane-chart loop.csv --plot xy --column field --column flux -o loop.png
   kestrane-chart voice.flac --show spectrum --x-axis log --y-axis log -o spectrum.png)";
 
 std::vector<std::string> kindNames()
@@ -82,6 +89,9 @@ void addDataOptions(CLI::App& app, RawOptions& raw)
     group(app.add_option("--show", raw.show, "values, the default; slope or spectrum: see below")
               ->check(CLI::IsMember({"values", "slope", "spectrum"}))
               ->type_name("WHAT"));
+    group(app.add_option("--plot", raw.plot, "line, the default; xy or needles: see below")
+              ->check(CLI::IsMember({"line", "xy", "needles"}))
+              ->type_name("KIND"));
     group(app.add_option("--start", raw.start, "x of the first sample")->type_name("X"));
     group(app.add_option("--step", raw.step, "Distance of the samples in x")->type_name("X"));
 }

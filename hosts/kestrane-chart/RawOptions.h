@@ -26,6 +26,7 @@ struct RawOptions
     std::vector<double> cursors;
     std::string title;
     std::string show = "values";
+    std::string plot = "line";
     std::string xKind = "linear";
     std::string yKind = "linear";
     std::string look = "light";

@@ -41,8 +41,8 @@ TEST(CrossingLabelsTest, NeitherOverlapEachOtherNorAMarkNorPassTheEdgeOfThePlot)
         Chart chart = emptyChart();
         for (int n = 0; n < 1 + i % 40; ++n)
             chart.crossings.append({n % 3, {share(random), share(random)}, "-1.234 mV"});
-        const ChartLayout layout = ChartLayout::of(
-            QSizeF(160 + 10 * i, 120 + 5 * (i % 7)), chart.texts, FontMeasure(look));
+        const ChartLayout layout = ChartLayout::of(QSizeF(160 + 10 * i, 120 + 5 * (i % 7)),
+                                                   chart.texts, FontMeasure(look));
         const QVector<QRectF> places = placesOf(chart, layout);
         ASSERT_EQ(places.size(), chart.crossings.size());
         EXPECT_FALSE(places[0].isEmpty() && chart.crossings.size() < 4) << i;

@@ -61,10 +61,58 @@ TEST(KestraneChartTest, ADenseSignalShowsItsWholeHeightInEveryColumn)
 {
     ChartRun chart;
     chart.writeColumn("in.csv", QString("1 -1 -1 -1 -1 ").repeated(20000).split(' '));
-    ASSERT_EQ(chart.run({"in.csv", "-o", "out.png", "--bottom", "-1", "--top", "1"}), 0);
+    for (const char* const plot : {"line", "needles"}) {
+        ASSERT_EQ(
+            chart.run({"in.csv", "-o", "out.png", "--bottom", "-1", "--top", "1", "--plot", plot}),
+            0);
+        const QImage image(chart.path("out.png"));
+        for (int x = 100; x < 900; ++x)
+            ASSERT_GT(rowsOfCurve(image, x).second - rowsOfCurve(image, x).first, 500) << x;
+    }
+}
+
+TEST(KestraneChartTest, DrawsTheSecondColumnOverTheFirstInTheOrderOfTheRows)
+{
+    ChartRun chart;
+    chart.write("in.csv", "field,flux\n0,0\n10,0\n10,10\n0,10\n");
+    const QStringList options = {"in.csv", "--plot",   "xy", "--from", "-10", "--to",
+                                 "20",     "--bottom", "-5", "--top",  "15",  "-o"};
+    ASSERT_EQ(chart.run(options + QStringList{"out.svg"}), 0);
+    for (const char* const caption : {">field<", ">flux<"})
+        EXPECT_TRUE(chart.read("out.svg").contains(caption)) << caption;
+    ASSERT_EQ(chart.run(options + QStringList{"out.png"}), 0);
     const QImage image(chart.path("out.png"));
-    for (int x = 100; x < 900; ++x)
-        ASSERT_GT(rowsOfCurve(image, x).second - rowsOfCurve(image, x).first, 500) << x;
+    const auto middle = rowsOfCurve(image, 520); // At 5, where there are the two horizontal lines.
+    EXPECT_NEAR(middle.second - middle.first, 267, 4);
+    EXPECT_LT(rowsOfCurve(image, 300).first, 0);
+    EXPECT_LT(rowsOfCurve(image, 800).first, 0);
+}
+
+TEST(KestraneChartTest, NeedlesStandOnZeroAtTheirPlaces)
+{
+    ChartRun chart;
+    chart.writeColumn("in.csv", {"", "8", "-4", "6"});
+    ASSERT_EQ(chart.run({"in.csv", "-o", "out.png", "--plot", "needles", "--from", "0", "--to", "4",
+                         "--bottom", "-10", "--top", "10", "--symbols", "1000"}),
+              0);
+    const QImage image(chart.path("out.png"));
+    QVector<std::pair<int, int>> needles;
+    QVector<int> columns;
+    for (int x = 50; x < image.width(); ++x) {
+        const auto rows = rowsOfCurve(image, x);
+        if (rows.first < 0 || (!columns.isEmpty() && x - columns.last() < 3))
+            continue;
+        needles.append(rows);
+        columns.append(x);
+    }
+    ASSERT_EQ(needles.size(), 3);
+    EXPECT_NEAR(columns[1] - columns[0], columns[2] - columns[1], 1);
+    const int zero = needles[0].second;
+    const double unit = (zero - needles[0].first) / 8.0;
+    EXPECT_NEAR(needles[1].first, zero, 2);
+    EXPECT_NEAR(needles[1].second, zero + 4.0 * unit, 3.0);
+    EXPECT_NEAR(needles[2].first, zero - 6.0 * unit, 3.0);
+    EXPECT_NEAR(needles[2].second, zero, 1);
 }
 
 TEST(KestraneChartTest, ShowsSplinesBeyondTheirSamplesAndSamplesWithoutALine)
