@@ -1,5 +1,6 @@
 #include "kestrane/axes/FixedPositionLinearAxis.h"
 
+#include "kestrane/axes/detail/AxisMap.h"
 #include "kestrane/axes/detail/InTurn.h"
 
 #include <boost/make_shared.hpp>
@@ -92,16 +93,14 @@ double FixedPositionLinearAxis::transform(ScaleMode mode, double value) const
 {
     if (std::isnan(value))
         return value;
-    if (mode == Logarithmic)
-        value = std::pow(10.0, value);
-    return (value + m_signedOffset) * m_inverseRange + m_anchor;
+    return linearMap().positionOf(mode == Logarithmic ? std::pow(10.0, value) : value);
 }
 
 double FixedPositionLinearAxis::inverseTransform(ScaleMode mode, double position) const
 {
     if (std::isnan(position))
         return position;
-    const double value = (position - m_anchor) * m_fullRange - m_signedOffset;
+    const double value = linearMap().valueAt(position);
     return mode == Logarithmic ? std::log10(std::fabs(value)) : value;
 }
 
@@ -294,6 +293,11 @@ void FixedPositionLinearAxis::updateInternalValues()
     detail::inTurn(
         this, [&] { updateMinimum(); }, [&] { updateMaximum(); }, [&] { invalidateTicks(); },
         [&] { emitParametersChanged(); });
+}
+
+detail::AxisMap FixedPositionLinearAxis::linearMap() const
+{
+    return {m_signedOffset, m_inverseRange, m_anchor, m_fullRange, m_signedOffset, false};
 }
 
 void FixedPositionLinearAxis::updateMinimum()

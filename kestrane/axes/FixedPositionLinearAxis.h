@@ -8,6 +8,10 @@ namespace pelorin {
 namespace ui {
 namespace chart {
 
+namespace detail {
+struct AxisMap;
+}
+
 /// A linear axis of numMajorDivisions() equal divisions, each worth scale() logical units. The
 /// divisions stand still; scrolling and scaling change the values that they show.
 ///
@@ -132,8 +136,10 @@ protected:
 
 private:
     friend class LinearAxis; // Places the ticks of this class elsewhere.
+    friend struct detail::AxisMap;
     struct FPLScrollScaleState;
 
+    detail::AxisMap linearMap() const;
     void updateMinimum();
     void updateMaximum();
 

@@ -1,5 +1,6 @@
 #include "kestrane/axes/LogAxis.h"
 
+#include "kestrane/axes/detail/AxisMap.h"
 #include "kestrane/axes/detail/InTurn.h"
 
 #include <boost/make_shared.hpp>
@@ -81,19 +82,12 @@ QVector<Axis::Tick> LogAxis::minorTicks()
 
 double LogAxis::transform(ScaleMode mode, double value) const
 {
-    if (std::isnan(value))
-        return value;
-    if (mode == Logarithmic)
-        return positionOf(value);
-    return value <= 0.0 ? -std::numeric_limits<double>::infinity() : positionOf(std::log10(value));
+    return std::isnan(value) ? value : mapOf(mode).positionOf(value);
 }
 
 double LogAxis::inverseTransform(ScaleMode mode, double position) const
 {
-    if (std::isnan(position))
-        return position;
-    const double exponent = (position - m_positionOffset) * m_decades;
-    return mode == Logarithmic ? exponent : powerOfTen(exponent);
+    return std::isnan(position) ? position : mapOf(mode).valueAt(position);
 }
 
 Axis::ScaleMode LogAxis::scaleMode() const
@@ -233,14 +227,14 @@ void LogAxis::invalidateTicks()
     Q_EMIT ticksUpdated();
 }
 
-double LogAxis::positionOf(double exponent) const
+detail::AxisMap LogAxis::mapOf(ScaleMode mode) const
 {
-    return exponent * m_positionScale + m_positionOffset;
+    return {-0.0, m_positionScale, m_positionOffset, m_decades, 0.0, mode != Logarithmic};
 }
 
 Axis::Tick LogAxis::tickAt(double exponent) const
 {
-    return Tick(powerOfTen(exponent), positionOf(exponent), 0.0, {}, false);
+    return Tick(powerOfTen(exponent), LogAxis::transform(Logarithmic, exponent), 0.0, {}, false);
 }
 
 void LogAxis::updateTicks()
@@ -259,7 +253,7 @@ void LogAxis::updateTicks()
     QVector<Tick> major = {tickAt(decade)};
     QVector<Tick> minor;
     for (int pass = 0; pass < mostPasses && end >= exponent; ++pass) {
-        if (positionOf(exponent) >= 0.0)
+        if (LogAxis::transform(Logarithmic, exponent) >= 0.0)
             minor.append(tickAt(exponent));
         if (++mantissa == 10) {
             mantissa = 2;

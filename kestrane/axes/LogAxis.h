@@ -8,6 +8,10 @@ namespace pelorin {
 namespace ui {
 namespace chart {
 
+namespace detail {
+struct AxisMap;
+}
+
 /// A logarithmic axis from smallest() at axis position 0.0 to largest() at 1.0.
 ///
 /// With decades = log10(largest / smallest), one decade takes 1 / decades of the axis:
@@ -110,13 +114,14 @@ protected:
     void emitLargestChanged(bool withParamChange);
 
 private:
+    friend struct detail::AxisMap;
     struct LogScrollScaleState;
 
     void updateScale();
     void updateTicks();
     void invalidateTicks();
 
-    double positionOf(double exponent) const;
+    detail::AxisMap mapOf(ScaleMode mode) const;
     Tick tickAt(double exponent) const;
 
     double m_smallest = 1.0;
