@@ -5,10 +5,25 @@
 #include "kestrane/backend/Subsampler.h"
 #include "kestrane/library/Export.h"
 
-#include <QVector>
+#include <memory>
+#include <vector>
 
 namespace pelorin {
+
+namespace ui {
+namespace chart {
+namespace detail {
+class RangeWalk;
+} // namespace detail
+} // namespace chart
+} // namespace ui
+
 namespace algo {
+
+namespace detail {
+class SampleSummary;
+class SplineCurvature;
+} // namespace detail
 
 /// A natural cubic spline through equally spaced samples, asked by fractional sample index.
 ///
@@ -18,7 +33,7 @@ namespace algo {
 ///
 /// (de Boor, A Practical Guide to Splines, chapter IV). Elimination gives pivots 4, 3.75, ... that
 /// settle at 2 + sqrt(3) within a dozen rows. Here every row takes the settled pivot, whose
-/// inverse is K = 2 - sqrt(3), which makes the set-up two plain passes. The curve passes through
+/// inverse is K = 2 - sqrt(3), which makes the solution two plain passes. The curve passes through
 /// every sample all the same; near the first ones it is not quite the exact natural spline.
 ///
 /// Laws:
@@ -29,8 +44,12 @@ namespace algo {
 /// Three or more samples of which one isn't finite, or whose doubles or second differences
 /// overflow, give NaN everywhere.
 ///
-/// Set-up is O(count) in time and memory (one double per sample); a query is O(1), cheapest within
-/// the interval of the last one. Samples are shared, not copied; at most INT_MAX of them.
+/// Set-up is one pass that finds the extremes of the samples by blocks, and keeps 2 % of their
+/// memory. A query is O(1), cheapest within the interval of the last one and then beside it: the
+/// coefficients are found from the samples around it, exactly as the two passes give them. Only
+/// where that cannot be (some curves of constant curvature, samples beyond 1e307) are the passes
+/// made, once, and one double per sample kept. Samples are shared, not copied; at most INT_MAX of
+/// them.
 ///
 /// Threads: a query moves a cache, so that one object serves one thread at a time.
 ///
@@ -41,6 +60,10 @@ class SplineAlgorithm : public Subsampler
 public:
     /// @throws std::length_error for more than INT_MAX samples, std::bad_alloc
     SplineAlgorithm(const Iterator& begin, long long count);
+    SplineAlgorithm(const SplineAlgorithm& other);
+    SplineAlgorithm(SplineAlgorithm&& other);
+    SplineAlgorithm& operator=(const SplineAlgorithm& other);
+    SplineAlgorithm& operator=(SplineAlgorithm&& other);
     ~SplineAlgorithm() override;
 
     /// The value at a fractional index from 0 up to, not including, count - 1.
@@ -55,21 +78,33 @@ public:
     boost::shared_ptr<Subsampler> tail(long long start) override;
 
 private:
-    void computeCurvature();
-    void selectInterval(long long interval);
+    friend class ui::chart::detail::RangeWalk;
 
-    QVector<double> m_curvature; // A sixth of the second derivative at each sample.
+    struct Cubic
+    {
+        double a, b, c, d;
+
+        static Cubic between(double y0, double y1, double c0, double c1);
+        double at(double t) const;
+    };
+
+    // What operator[] gives for some indices, all of them covered and none below the one before.
+    void evaluate(const double* indices, std::size_t count, double* values);
+    void evaluateApart(const double* indices, std::size_t count, double* values);
+
+    void selectInterval(int interval);
+    void findStretch(int interval);
+
     Iterator m_begin;
     long long m_count;
+    std::unique_ptr<detail::SampleSummary> m_summary;
+    std::unique_ptr<detail::SplineCurvature> m_curvature; // Null where all values are NaN.
 
-    // The cubic of the interval last asked for, between samples m_intervalIndex and the next.
-    bool m_intervalValid = false;
-    long long m_intervalIndex = 0;
-    double m_cubicA = 0.0;
-    double m_cubicB = 0.0;
-    double m_cubicC = 0.0;
-    double m_cubicD = 0.0;
-    Iterator m_cursor; // Sample m_intervalIndex.
+    std::vector<double> m_stretch; // The coefficients found last, from sample m_stretchBegin on.
+    int m_stretchBegin = 0;
+
+    Cubic m_cubic{}; // Of the interval last asked for.
+    int m_interval = -1;
 };
 
 extern template class KESTRANE_EXPORT SplineAlgorithm<backend::SampleIterator>;
