@@ -1,5 +1,6 @@
 #include "kestrane/plots/SamplePlotAlgorithm.h"
 
+#include "kestrane/plots/detail/RangeWalk.h"
 #include "kestrane/plots/detail/SegmentCurve.h"
 #include "kestrane/plots/detail/SegmentWalk.h"
 
@@ -54,8 +55,11 @@ SamplePlotAlgorithm::createSegments(const QSharedPointer<const Axis>& xAxis,
     for (const backend::PlotSegment& segment : m_snapshot.segments) {
         detail::SegmentPlot plot;
         try {
-            detail::SegmentWalk(segment, *xAxis, *yAxis, {columnWidth, symbolSpacing}, column, plot)
-                .run();
+            const detail::Thinning thinning{columnWidth, symbolSpacing};
+            if (detail::RangeWalk::serves(segment, *xAxis, *yAxis, thinning))
+                detail::RangeWalk(segment, *xAxis, *yAxis, thinning, column, plot).run();
+            else
+                detail::SegmentWalk(segment, *xAxis, *yAxis, thinning, column, plot).run();
         } catch (...) {
             // Ends this segment only: what has been collected of it is drawn.
         }

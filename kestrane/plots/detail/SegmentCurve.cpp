@@ -16,10 +16,9 @@ SegmentCurve::SegmentCurve(const backend::PlotSegment& segment)
         m_subsampler = boost::make_shared<Spline>(segment.begin, segment.count);
         segment.setSubsampler(m_subsampler);
     }
-    // A subclass may answer where the spline doesn't, so that it counts as foreign.
-    const algo::Subsampler& subsampler = *m_subsampler;
+    algo::Subsampler& subsampler = *m_subsampler;
     m_ownSpline =
-        typeid(subsampler) == typeid(Spline) ? static_cast<const Spline*>(&subsampler) : nullptr;
+        typeid(subsampler) == typeid(Spline) ? static_cast<Spline*>(&subsampler) : nullptr;
 }
 
 std::optional<double> SegmentCurve::at(double index) const

@@ -26,11 +26,15 @@ public:
     /// The value at a fractional sample index, or whatever the subsampler throws.
     double operator[](double index) const;
 
-private:
     using Spline = algo::SplineAlgorithm<backend::SampleIterator>;
 
+    /// Our own spline if it is that and no subclass, which may answer where the spline doesn't;
+    /// else null.
+    Spline* ownSpline() const { return m_ownSpline; }
+
+private:
     boost::shared_ptr<algo::Subsampler> m_subsampler;
-    const Spline* m_ownSpline; // The subsampler if it is exactly that, else null.
+    Spline* m_ownSpline;
 };
 
 } // namespace detail

@@ -87,19 +87,18 @@ bool SegmentWalk::takeSample()
         if (!closeColumn())
             return false;
     }
-    collect(position, sample);
+    collect(position, m_yAxis.transform(m_yMode, sample));
     return true;
 }
 
-void SegmentWalk::collect(double position, double sample)
+void SegmentWalk::collect(double position, double y)
 {
-    const double y = m_yAxis.transform(m_yMode, sample);
     if (std::isnan(y))
         return;
     if (m_symbolsOn)
         m_plot.symbols.append(QPointF(position, y));
     if (position >= m_column.left)
-        m_minMax.put(y);
+        m_extremes.unite({y, y});
 }
 
 // The right edge is a sum, column by column, and not a multiple of the width: columns have to meet
@@ -108,7 +107,7 @@ bool SegmentWalk::closeColumn()
 {
     if (!flushColumn())
         return false;
-    m_minMax.reset();
+    m_extremes = {};
     m_column.left = m_column.right;
     m_column.right += m_columnWidth;
     return true;
@@ -120,7 +119,7 @@ bool SegmentWalk::flushColumn()
     const double centre = m_columnWidth * 0.5 + m_column.left;
     const double index = fractionalIndexAt(m_column.left);
     if (!(index >= 0.0)) { // Before the first sample there is no curve.
-        appendExtremes(centre);
+        m_plot.appendExtremes(centre, m_extremes);
         return true;
     }
     const std::optional<double> value = m_curve.at(index);
@@ -128,7 +127,7 @@ bool SegmentWalk::flushColumn()
         return false;
     const double y = m_yAxis.transform(m_yMode, *value);
     if (!std::isnan(y))
-        appendExtremesBeside(centre, y);
+        m_plot.appendExtremesBeside(centre, y, m_extremes);
     return true;
 }
 
@@ -153,31 +152,6 @@ void SegmentWalk::completeLonePoint()
 double SegmentWalk::fractionalIndexAt(double position) const
 {
     return (m_xAxis.inverseTransform(m_xMode, position) - m_offset) / m_scale;
-}
-
-void SegmentWalk::appendPoint(double x, double y)
-{
-    m_plot.polyline.append(QPointF(x, y));
-}
-
-void SegmentWalk::appendExtremesBeside(double x, double curve)
-{
-    appendPoint(x, curve);
-    if (m_minMax.count() == 0)
-        return;
-    if (!qFuzzyCompare(curve, m_minMax.minVal()))
-        appendPoint(x, m_minMax.minVal());
-    if (!qFuzzyCompare(m_minMax.maxVal(), m_minMax.minVal()))
-        appendPoint(x, m_minMax.maxVal());
-}
-
-void SegmentWalk::appendExtremes(double x)
-{
-    if (m_minMax.count() == 0)
-        return;
-    appendPoint(x, m_minMax.minVal());
-    if (!qFuzzyCompare(m_minMax.maxVal(), m_minMax.minVal()))
-        appendPoint(x, m_minMax.maxVal());
 }
 
 } // namespace detail

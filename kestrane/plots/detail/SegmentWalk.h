@@ -2,32 +2,15 @@
 #define KESTRANE_PLOTS_DETAIL_SEGMENTWALK_H
 
 #include "kestrane/axes/Axis.h"
-#include "kestrane/backend/MinMaxAverageAlgorithm.h"
 #include "kestrane/backend/PlotSegment.h"
 #include "kestrane/plots/detail/Columns.h"
 #include "kestrane/plots/detail/SegmentCurve.h"
-
-#include <QPointF>
-#include <QVector>
+#include "kestrane/plots/detail/SegmentPlot.h"
 
 namespace pelorin {
 namespace ui {
 namespace chart {
 namespace detail {
-
-/// The stretch [left, right) of x axis positions whose points are being collected.
-struct Column
-{
-    double left;
-    double right;
-};
-
-/// What there is to draw of one segment, in axis space.
-struct SegmentPlot
-{
-    QVector<QPointF> polyline;
-    QVector<QPointF> symbols;
-};
 
 /// One pass over the visible samples of a segment, column by column. It reaches the axes through
 /// their virtual operations alone and so serves any axis.
@@ -42,20 +25,16 @@ public:
     /// Throws what a foreign subsampler or axis throws.
     void run();
 
-private:
+protected:
     // Those that return a bool return false where the curve ends, and the walk with it.
     void alignToFirstSample();
     bool takeSample();
-    void collect(double position, double sample);
+    void collect(double position, double y);
     bool closeColumn();
     bool flushColumn();
     void completeLonePoint();
 
     double fractionalIndexAt(double position) const;
-    void appendPoint(double x, double y);
-    void appendExtremesBeside(double x, double curve);
-    void appendExtremes(double x);
-
     const Axis& m_xAxis;
     const Axis& m_yAxis;
     const Axis::ScaleMode m_xMode;
@@ -71,7 +50,7 @@ private:
     const double* m_cursor;
     long long m_index = 0;
     long long m_remaining;
-    algo::MinMaxAverageAlgorithm m_minMax;
+    Extremes m_extremes; // Of the y positions in the present column.
 };
 
 } // namespace detail

@@ -1,0 +1,220 @@
+#include "kestrane/plots/detail/RangeWalk.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace pelorin {
+namespace ui {
+namespace chart {
+namespace detail {
+
+namespace {
+
+// Numbers that differ by more than these shares of them have logarithms in their order, whatever
+// mathematical library computes them: they are apart by many of its errors of a few units in the
+// last place, the logarithm being below 309.
+constexpr double apart = 1e-11;
+constexpr double beside = 1e-12;
+
+// Whether no sample has the position of the one before it, or a lesser one.
+bool hasAscendingPositions(const backend::PlotSegment& segment, const AxisMap& xMap,
+                           const Thinning& thinning)
+{
+    const double step = segment.xInfo.scale, start = segment.xInfo.offset;
+    if (!(step > 0.0 && std::isfinite(step) && std::isfinite(start) && xMap.factor > 0.0))
+        return false;
+    if (!xMap.isLogarithmic)
+        return true;
+    const double end = static_cast<double>(segment.count) * step + start;
+    return step > apart * std::min(end, xMap.valueAt(1.0 + 2.0 * thinning.columnWidth));
+}
+
+} // namespace
+
+bool RangeWalk::serves(const backend::PlotSegment& segment, const Axis& xAxis, const Axis& yAxis,
+                       const Thinning& thinning)
+{
+    const auto xMap = AxisMap::of(xAxis, segment.xInfo.scaleMode);
+    const auto yMap = AxisMap::of(yAxis, segment.yScaleMode);
+    return xMap && yMap && xMap->isOrderly() && yMap->isOrderly() && segment.count > 0 &&
+           hasAscendingPositions(segment, *xMap, thinning) && SegmentCurve(segment).ownSpline();
+}
+
+RangeWalk::RangeWalk(const backend::PlotSegment& segment, const Axis& xAxis, const Axis& yAxis,
+                     const Thinning& thinning, Column& column, SegmentPlot& plot)
+    : SegmentWalk(segment, xAxis, yAxis, thinning, column, plot)
+    , m_xMap(*AxisMap::of(xAxis, segment.xInfo.scaleMode))
+    , m_yMap(*AxisMap::of(yAxis, segment.yScaleMode))
+    , m_spline(*m_curve.ownSpline())
+    , m_samples(&*segment.begin)
+    , m_count(segment.count)
+{}
+
+void RangeWalk::run()
+{
+    alignToFirstSample();
+    moveTo(m_index);
+    while (m_index < m_count && m_column.left < 1.0) {
+        if (!takeColumn())
+            return;
+    }
+    if (flushColumn())
+        completeLonePoint();
+}
+
+// All samples of a column, and then the first one behind it, which closes it.
+bool RangeWalk::takeColumn()
+{
+    if (m_ahead.next == m_ahead.size)
+        lookAhead();
+    if (!(m_position >= m_column.right))
+        collectUpTo(firstAtOrBeyond(m_column.right, m_ahead.index[m_ahead.next + 1]));
+    if (m_index == m_count)
+        return true;
+    if (!closeColumn())
+        return false;
+    // The sample that has closed the last column is still taken.
+    if (!(m_column.left < 1.0))
+        collectUpTo(m_index + 1);
+    return true;
+}
+
+bool RangeWalk::closeColumn()
+{
+    const double centre = m_columnWidth * 0.5 + m_column.left;
+    const double index = m_ahead.index[m_ahead.next];
+    if (!(index >= 0.0)) {
+        m_plot.appendExtremes(centre, m_extremes);
+    } else {
+        if (!m_spline.covers(index))
+            return false;
+        const double y = m_yMap.positionOf(m_ahead.curve[m_ahead.next]);
+        if (!std::isnan(y))
+            m_plot.appendExtremesBeside(centre, y, m_extremes);
+    }
+    m_extremes = {};
+    m_column.left = m_column.right;
+    m_column.right += m_columnWidth;
+    ++m_ahead.next;
+    return true;
+}
+
+void RangeWalk::lookAhead()
+{
+    m_ahead.next = 0;
+    m_ahead.size = 0;
+    int firstOnCurve = 0, endOfCurve = 0;
+    Column column = m_column;
+    do {
+        const double index = fractionalIndexAt(column.left);
+        m_ahead.index[m_ahead.size++] = index;
+        if (!(index >= 0.0))
+            firstOnCurve = endOfCurve = m_ahead.size;
+        else if (m_spline.covers(index))
+            endOfCurve = m_ahead.size;
+        column.left = column.right;
+        column.right += m_columnWidth;
+    } while (m_ahead.size < Ahead::capacity && column.left < 1.0);
+    m_ahead.index[m_ahead.size] = fractionalIndexAt(column.left);
+    m_spline.evaluate(m_ahead.index + firstOnCurve,
+                      static_cast<std::size_t>(endOfCurve - firstOnCurve),
+                      m_ahead.curve + firstOnCurve);
+}
+
+void RangeWalk::collectUpTo(long long end)
+{
+    if (m_symbolsOn) {
+        for (long long i = m_index; i < end; ++i) {
+            const double y = m_yMap.positionOf(m_samples[i]);
+            if (!std::isnan(y))
+                m_plot.symbols.append(QPointF(positionOfSample(i), y));
+        }
+    }
+    // Rounding may leave the first sample a little before the first column.
+    while (m_index < end && !(m_position >= m_column.left))
+        moveTo(m_index + 1);
+    m_extremes.unite(positionsOf(m_index, end));
+    moveTo(end);
+}
+
+void RangeWalk::moveTo(long long index)
+{
+    m_index = index;
+    m_position = index < m_count ? positionOfSample(index) : 0.0;
+}
+
+Extremes RangeWalk::positionsOf(long long begin, long long end) const
+{
+    if (begin == end)
+        return {};
+    const Extremes values =
+        m_spline.m_summary->over(static_cast<std::size_t>(begin), static_cast<std::size_t>(end));
+    if (values.isEmpty())
+        return {};
+    if (m_yMap.isLogarithmic)
+        return logarithmsOf(begin, end, values);
+    const double low = m_yMap.positionOf(values.min), high = m_yMap.positionOf(values.max);
+    return m_yMap.factor > 0.0 ? Extremes{low, high} : Extremes{high, low};
+}
+
+Extremes RangeWalk::logarithmsOf(long long begin, long long end, const Extremes& values) const
+{
+    Extremes positions;
+    const auto unite = [&](double value) {
+        const double position = m_yMap.positionOf(value);
+        positions.unite({position, position});
+    };
+    unite(values.min);
+    unite(values.max);
+    const auto uniteOther = [&](double value) {
+        if (value != values.min && value != values.max)
+            unite(value);
+    };
+    m_spline.m_summary->visitBeyond(static_cast<std::size_t>(begin), static_cast<std::size_t>(end),
+                                    values.min * (1.0 + beside), values.max * (1.0 - beside),
+                                    uniteOther);
+    return positions;
+}
+
+double RangeWalk::positionOfSample(long long index) const
+{
+    return m_xMap.positionOf(static_cast<double>(index) * m_scale + m_offset);
+}
+
+double RangeWalk::fractionalIndexAt(double position) const
+{
+    return (m_xMap.valueAt(position) - m_offset) / m_scale;
+}
+
+// The first sample from m_index on whose position is not less than @p position; their number if
+// there is none. Looks beside the guess, ever farther, and then between the last two places.
+long long RangeWalk::firstAtOrBeyond(double position, double guess) const
+{
+    const auto isBefore = [&](long long index) { return !(positionOfSample(index) >= position); };
+    long long low = m_index, high = m_count; // It lies from low to high.
+    if (guess > static_cast<double>(low) && guess < static_cast<double>(high)) {
+        auto place = static_cast<long long>(std::ceil(guess));
+        for (long long step = 1; place >= low && place < high; step *= 2) {
+            if (isBefore(place)) {
+                low = place + 1;
+                place += step;
+            } else {
+                high = place;
+                place -= step;
+            }
+        }
+    }
+    while (low < high) {
+        const long long middle = low + (high - low) / 2;
+        if (isBefore(middle))
+            low = middle + 1;
+        else
+            high = middle;
+    }
+    return low;
+}
+
+} // namespace detail
+} // namespace chart
+} // namespace ui
+} // namespace pelorin
