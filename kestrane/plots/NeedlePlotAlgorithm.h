@@ -49,10 +49,10 @@ public:
     ///
     /// and then are the largest sample of each column, compared before it is transformed. The
     /// first column ends at a multiple of the width on the visible axis and holds all samples to
-    /// its left. A sample on the right edge of a column still belongs to it; one behind that edge
-    /// starts the next column, however far it lies. NaN among others in a column doesn't count; a
-    /// column of nothing else is a NaN needle, and so is a segment without samples. Not thinned
-    /// out, each sample is a needle, NaN too.
+    /// its left. A sample on the right edge of a column still belongs to it; one behind that edge,
+    /// or without a position, starts the next column, however far it lies. NaN among others in a
+    /// column doesn't count; a column of nothing else is a NaN needle, and so is a segment without
+    /// samples. Not thinned out, each sample is a needle, NaN too.
     ///
     /// O(samples), with memory for a needle a sample meanwhile; the result has its exact size.
     ///

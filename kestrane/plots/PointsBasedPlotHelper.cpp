@@ -1,5 +1,7 @@
 #include "kestrane/plots/PointsBasedPlotHelper.h"
 
+#include "kestrane/plots/detail/Columns.h"
+
 namespace pelorin {
 namespace ui {
 namespace chart {
@@ -18,13 +20,9 @@ void PointsBasedPlotHelper::flushMinMax(double x, algo::MinMaxAverageAlgorithm& 
     if (minMax.count() == 0)
         return;
 
-    points.append(QPointF(x, minMax.first()));
-    if (minMax.first() != minMax.minVal())
-        points.append(QPointF(x, minMax.minVal()));
-    if (minMax.minVal() != minMax.maxVal())
-        points.append(QPointF(x, minMax.maxVal()));
-    if (minMax.maxVal() != minMax.last())
-        points.append(QPointF(x, minMax.last()));
+    const detail::ColumnValues values{minMax.first(), minMax.minVal(), minMax.maxVal(),
+                                      minMax.last(), false};
+    values.appendTo(points, x);
     minMax.reset();
 }
 

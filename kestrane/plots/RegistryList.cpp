@@ -139,24 +139,23 @@ void RegistryList<T>::Soul::carryOutRemoval(const boost::shared_ptr<T>& item)
     m_pendingChanges.append({false, item});
 }
 
-// Dropped items die here if nobody else holds them, behind all reports and before the guard.
+// Dropped items die here if nobody else holds them, behind all reports and before the guard. Where
+// a hook throws, all changes stay to be reported again.
 template<typename T>
 void RegistryList<T>::Soul::flushChanges()
 {
     const tbb::queuing_mutex::scoped_lock guard(m_ownerLock);
     if (!m_owner)
         return;
-    // Taken out first, so that no change is reported twice even if a hook throws.
-    QList<boost::shared_ptr<T>> removedItems;
-    removedItems.swap(m_removedItems);
-    QList<Change> changes;
-    changes.swap(m_pendingChanges);
-    for (const Change& change : qAsConst(changes)) {
+    const QList<Change> changes = m_pendingChanges;
+    for (const Change& change : changes) {
         if (change.added)
             m_owner->itemAdded(*change.item);
         else
             m_owner->itemRemoved(*change.item);
     }
+    m_pendingChanges.clear();
+    m_removedItems.clear();
 }
 
 template<typename T>

@@ -34,8 +34,8 @@ namespace utilities {
 /// A derived list may override itemAdded() and itemRemoved(). They are called when changes have
 /// been carried out, one at a time, oldest first, on the thread that carried them out. They, and
 /// the destructors of dropped callbacks, may add, drop and visit, which adds and drops for later;
-/// they must not destroy the list. A hook should not throw: what it throws reaches nobody, and the
-/// changes behind it in the same batch are not reported.
+/// they must not destroy the list. A hook should not throw: what it throws reaches nobody, and
+/// all changes of its batch are reported again with the next one.
 ///
 /// A thread in a callback, a hook or such a destructor must not wait for another one that begins a
 /// pass.

@@ -76,7 +76,7 @@ QList<Intersection> SamplePlotAlgorithm::doIntersect(const Axis* xAxis, const Ax
 {
     QList<Intersection> result;
     const QMutexLocker locker(&m_mutex);
-    if (!xAxis || !yAxis)
+    if (!xAxis || !yAxis || m_snapshot.empty())
         return result;
     for (const backend::PlotSegment& segment : m_snapshot.segments)
         appendIntersection(result, segment, *xAxis, *yAxis, position);

@@ -1,9 +1,11 @@
 #include "kestrane/plots/XYPlotAlgorithm.h"
 
+#include "kestrane/axes/detail/AxisMap.h"
 #include "kestrane/plots/detail/Columns.h"
 
 #include <QMutexLocker>
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -17,25 +19,23 @@ using Lists = std::pair<QVector<QVector<QPointF>>, QVector<QVector<QPointF>>>;
 
 constexpr double noColumn = -1.0;
 
-/// One pass over a pair of segments.
+// One pass over the points of a pair of segments. The maps are AxisMap or AskedAxis.
+template<typename Map>
 class PairWalk
 {
 public:
-    PairWalk(PointsBasedPlotHelper& helper, const Axis& xAxis, const Axis& yAxis,
-             const detail::Thinning& thinning, Lists& lists)
-        : m_helper(helper)
-        , m_xAxis(xAxis)
-        , m_yAxis(yAxis)
-        , m_thinning(thinning)
+    PairWalk(const Map& xMap, const Map& yMap, const detail::Thinning& thinning, Lists& lists)
+        : m_xMap(xMap)
+        , m_yMap(yMap)
+        , m_columnWidth(thinning.columnWidth)
+        , m_symbolDistance(thinning.columnWidth * thinning.symbolSpacing)
         , m_lists(lists)
     {}
 
-    void run(const backend::PlotSegment& x, const backend::PlotSegment& y)
+    void run(const double* x, const double* y, std::ptrdiff_t count)
     {
-        backend::SampleIterator xCursor = x.begin;
-        backend::SampleIterator yCursor = y.begin;
-        for (; yCursor != y.end && xCursor != x.end; ++xCursor, ++yCursor) {
-            if (!takePoint(x.yScaleMode, *xCursor, y.yScaleMode, *yCursor))
+        for (std::ptrdiff_t i = 0; i < count; ++i) {
+            if (!takePoint(x[i], y[i]))
                 closeLine();
         }
         closeLine();
@@ -43,17 +43,18 @@ public:
 
 private:
     // False where the line ends.
-    bool takePoint(Axis::ScaleMode xMode, double xSample, Axis::ScaleMode yMode, double ySample)
+    bool takePoint(double xSample, double ySample)
     {
-        const double x = m_xAxis.transform(xMode, xSample);
+        const double x = m_xMap.positionOf(xSample);
         if (std::isnan(x))
             return false;
         selectColumn(x); // Even if there is no y: the column is there for the points to come.
-        const double y = m_yAxis.transform(yMode, ySample);
+        const double y = m_yMap.positionOf(ySample);
         if (std::isnan(y))
             return false;
-        addSymbol(x, y);
-        m_minMax.put(y);
+        if (m_collecting)
+            addSymbol(x, y);
+        m_values.put(y);
         return true;
     }
 
@@ -61,8 +62,8 @@ private:
     {
         if (m_columnX == noColumn)
             m_columnX = x;
-        if (std::fabs(x - m_columnX) >= m_thinning.columnWidth) {
-            m_helper.flushMinMax(m_columnX, m_minMax, m_polyline);
+        if (std::fabs(x - m_columnX) >= m_columnWidth) {
+            flush();
             m_columnX = x;
         }
     }
@@ -70,10 +71,7 @@ private:
     // The distance is signed: a step backwards is too close, however far.
     void addSymbol(double x, double y)
     {
-        if (!m_collecting)
-            return;
-        if (!m_symbols.isEmpty() &&
-            m_thinning.columnWidth * m_thinning.symbolSpacing > x - m_symbols.last().x()) {
+        if (!m_symbols.isEmpty() && m_symbolDistance > x - m_symbols.last().x()) {
             m_symbols.clear();
             m_collecting = false;
         } else {
@@ -81,12 +79,19 @@ private:
         }
     }
 
+    void flush()
+    {
+        if (!m_values.isEmpty)
+            m_values.appendTo(m_polyline, m_columnX);
+        m_values.isEmpty = true;
+    }
+
     void closeLine()
     {
-        m_helper.flushMinMax(m_columnX, m_minMax, m_polyline);
+        flush();
         if (m_polyline.size() == 1) {
             const QPointF point = m_polyline.first();
-            m_polyline.append(QPointF(point.x() + m_thinning.columnWidth, point.y()));
+            m_polyline.append(QPointF(point.x() + m_columnWidth, point.y()));
         }
         moveToEnd(m_polyline, m_lists.first);
         moveToEnd(m_symbols, m_lists.second);
@@ -98,10 +103,10 @@ private:
             lists.append(std::exchange(points, {}));
     }
 
-    PointsBasedPlotHelper& m_helper;
-    const Axis& m_xAxis;
-    const Axis& m_yAxis;
-    const detail::Thinning m_thinning;
+    const Map m_xMap;
+    const Map m_yMap;
+    const double m_columnWidth;
+    const double m_symbolDistance;
     Lists& m_lists;
 
     // These two live from one line to the next.
@@ -110,8 +115,24 @@ private:
 
     QVector<QPointF> m_polyline;
     QVector<QPointF> m_symbols;
-    algo::MinMaxAverageAlgorithm m_minMax;
+    detail::ColumnValues m_values;
 };
+
+void plot(const backend::PlotSegment& x, const backend::PlotSegment& y, const Axis& xAxis,
+          const Axis& yAxis, const detail::Thinning& thinning, Lists& lists)
+{
+    const std::ptrdiff_t count = std::min(x.end - x.begin, y.end - y.begin);
+    if (count <= 0)
+        return;
+    const auto xMap = detail::AxisMap::of(xAxis, x.yScaleMode);
+    const auto yMap = detail::AxisMap::of(yAxis, y.yScaleMode);
+    if (xMap && yMap)
+        PairWalk(*xMap, *yMap, thinning, lists).run(&*x.begin, &*y.begin, count);
+    else
+        PairWalk(detail::AskedAxis{xAxis, x.yScaleMode}, detail::AskedAxis{yAxis, y.yScaleMode},
+                 thinning, lists)
+            .run(&*x.begin, &*y.begin, count);
+}
 
 } // namespace
 
@@ -139,10 +160,8 @@ XYPlotAlgorithm::createSegments(const QSharedPointer<const Axis>& xAxis,
     const QMutexLocker locker(&m_mutex);
     const std::vector<backend::PlotSegment> xSegments = m_xSnapshot.segments;
     const std::vector<backend::PlotSegment> ySegments = m_ySnapshot.segments;
-    for (std::size_t i = 0; i < xSegments.size() && i < ySegments.size(); ++i) {
-        PairWalk(*this, *xAxis, *yAxis, {columnWidth, symbolSpacing}, lists)
-            .run(xSegments[i], ySegments[i]);
-    }
+    for (std::size_t i = 0; i < xSegments.size() && i < ySegments.size(); ++i)
+        plot(xSegments[i], ySegments[i], *xAxis, *yAxis, {columnWidth, symbolSpacing}, lists);
     return lists;
 }
 

@@ -53,7 +53,7 @@ public:
     /// symbols since the last NaN and ends the symbols of its pair.
     ///
     /// The position -1.0 stands for no column: one that would start exactly there starts at the
-    /// next point with an x instead, and is drawn there as a whole.
+    /// next point with an x instead, if there is one, and is drawn there as a whole.
     ///
     /// O(samples).
     ///
@@ -64,7 +64,7 @@ public:
     ///         column to its right. Second the lists of symbol points, each of one point or more.
     ///         Both are empty for a null axis. Without an axis, data or a width there is no wait
     ///         for another request.
-    /// @throws what an axis throws, and nothing of its own
+    /// @throws what an axis throws, and std::bad_alloc
     std::pair<QVector<QVector<QPointF>>, QVector<QVector<QPointF>>>
     createSegments(const QSharedPointer<const Axis>& xAxis, const QSharedPointer<const Axis>& yAxis,
                    double columnWidth, double symbolSpacing);

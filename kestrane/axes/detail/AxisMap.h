@@ -52,6 +52,25 @@ struct AxisMap
         const bool isFinite = std::isfinite(add) && std::isfinite(factor) && std::isfinite(shift);
         return isFinite && (isLogarithmic ? factor > 0.0 : factor != 0.0);
     }
+
+    /// Whether values that follow each other by @p step, from @p start to @p end at most, have
+    /// positions that ascend with them: on a logarithmic axis they have to differ by many errors of
+    /// a logarithm, a few units in the last place of a number below 309.
+    bool ascends(double start, double step, double end) const
+    {
+        constexpr double apart = 1e-11;
+        return isOrderly() && factor > 0.0 && step > 0.0 && std::isfinite(step) &&
+               std::isfinite(start) && (!isLogarithmic || step > apart * end);
+    }
+};
+
+/// The same for any axis, by asking it.
+struct AskedAxis
+{
+    const Axis& axis;
+    Axis::ScaleMode mode;
+
+    double positionOf(double value) const { return axis.transform(mode, value); }
 };
 
 } // namespace detail

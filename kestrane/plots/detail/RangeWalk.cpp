@@ -10,34 +10,24 @@ namespace detail {
 
 namespace {
 
-// Numbers that differ by more than these shares of them have logarithms in their order, whatever
-// mathematical library computes them: they are apart by many of its errors of a few units in the
-// last place, the logarithm being below 309.
-constexpr double apart = 1e-11;
+// Numbers that differ by more than this share of them have logarithms in their order, whatever
+// mathematical library computes them.
 constexpr double beside = 1e-12;
-
-// Whether no sample has the position of the one before it, or a lesser one.
-bool hasAscendingPositions(const backend::PlotSegment& segment, const AxisMap& xMap,
-                           const Thinning& thinning)
-{
-    const double step = segment.xInfo.scale, start = segment.xInfo.offset;
-    if (!(step > 0.0 && std::isfinite(step) && std::isfinite(start) && xMap.factor > 0.0))
-        return false;
-    if (!xMap.isLogarithmic)
-        return true;
-    const double end = static_cast<double>(segment.count) * step + start;
-    return step > apart * std::min(end, xMap.valueAt(1.0 + 2.0 * thinning.columnWidth));
-}
 
 } // namespace
 
 bool RangeWalk::serves(const backend::PlotSegment& segment, const Axis& xAxis, const Axis& yAxis,
                        const Thinning& thinning)
 {
-    const auto xMap = AxisMap::of(xAxis, segment.xInfo.scaleMode);
+    const backend::MetaInfo& x = segment.xInfo;
+    const auto xMap = AxisMap::of(xAxis, x.scaleMode);
     const auto yMap = AxisMap::of(yAxis, segment.yScaleMode);
-    return xMap && yMap && xMap->isOrderly() && yMap->isOrderly() && segment.count > 0 &&
-           hasAscendingPositions(segment, *xMap, thinning) && SegmentCurve(segment).ownSpline();
+    if (!xMap || !yMap || segment.count <= 0 || !yMap->isOrderly())
+        return false;
+    const double end = static_cast<double>(segment.count) * x.scale + x.offset;
+    const double lastVisible = xMap->valueAt(1.0 + 2.0 * thinning.columnWidth);
+    return xMap->ascends(x.offset, x.scale, std::min(end, lastVisible)) &&
+           SegmentCurve(segment).ownSpline();
 }
 
 RangeWalk::RangeWalk(const backend::PlotSegment& segment, const Axis& xAxis, const Axis& yAxis,
@@ -187,31 +177,11 @@ double RangeWalk::fractionalIndexAt(double position) const
 }
 
 // The first sample from m_index on whose position is not less than @p position; their number if
-// there is none. Looks beside the guess, ever farther, and then between the last two places.
+// there is none.
 long long RangeWalk::firstAtOrBeyond(double position, double guess) const
 {
-    const auto isBefore = [&](long long index) { return !(positionOfSample(index) >= position); };
-    long long low = m_index, high = m_count; // It lies from low to high.
-    if (guess > static_cast<double>(low) && guess < static_cast<double>(high)) {
-        auto place = static_cast<long long>(std::ceil(guess));
-        for (long long step = 1; place >= low && place < high; step *= 2) {
-            if (isBefore(place)) {
-                low = place + 1;
-                place += step;
-            } else {
-                high = place;
-                place -= step;
-            }
-        }
-    }
-    while (low < high) {
-        const long long middle = low + (high - low) / 2;
-        if (isBefore(middle))
-            low = middle + 1;
-        else
-            high = middle;
-    }
-    return low;
+    return firstNotBefore(m_index, m_count, std::ceil(guess),
+                          [&](long long index) { return !(positionOfSample(index) >= position); });
 }
 
 } // namespace detail

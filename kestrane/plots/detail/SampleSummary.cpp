@@ -82,6 +82,11 @@ Look lookAt(const double* samples, std::size_t count)
 
 } // namespace
 
+Extremes extremesOf(const double* values, std::size_t count)
+{
+    return lookAt(values, count).extremes;
+}
+
 SampleSummary::SampleSummary(const double* samples, std::size_t count)
     : m_samples(samples)
     , m_isFinite(true)
@@ -118,10 +123,10 @@ Extremes SampleSummary::over(std::size_t begin, std::size_t end) const
     const std::size_t firstBlock = (begin + blockSize - 1) / blockSize;
     const std::size_t lastBlock = std::min(end / blockSize, m_blocks.size());
     if (firstBlock >= lastBlock)
-        return lookAt(m_samples + begin, end - begin).extremes;
-    Extremes extremes = lookAt(m_samples + begin, firstBlock * blockSize - begin).extremes;
+        return extremesOf(m_samples + begin, end - begin);
+    Extremes extremes = extremesOf(m_samples + begin, firstBlock * blockSize - begin);
     overBlocks(firstBlock, lastBlock, extremes);
-    extremes.unite(lookAt(m_samples + lastBlock * blockSize, end - lastBlock * blockSize).extremes);
+    extremes.unite(extremesOf(m_samples + lastBlock * blockSize, end - lastBlock * blockSize));
     return extremes;
 }
 

@@ -25,6 +25,9 @@ struct Extremes
     }
 };
 
+/// Those of some values, in one pass.
+Extremes extremesOf(const double* values, std::size_t count);
+
 /// The extremes of a run of samples by blocks and by groups of blocks, made in one pass over the
 /// samples. It answers for any range of them by reading less than two blocks of samples, two groups
 /// of blocks, and one group in 2048 samples:
