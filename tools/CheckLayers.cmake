@@ -2,6 +2,7 @@
 #   axes -> library (the tick formatter also uses the value formatter of the backend)
 #   colors -> library
 #   backend -> the axis contract          ombrel -> backend
+#   surfaces -> axes, backend, colors
 #   plots -> axes, backend                library's entry class -> axes, colors
 #   hosts and benchmarks -> installed headers (<...>) and their own
 function(check_layer allowed)
@@ -30,10 +31,13 @@ set(formatter "kestrane/backend/(ValueFormatter|Quantity|QuantityManager|Singlet
 check_layer("kestrane/(axes|library)/|${formatter}" "kestrane/axes/*.h" "kestrane/axes/*.cpp")
 check_layer("kestrane/(library/|axes/Axis\\.h|colors/ColorMap\\.h)" "kestrane/library/*.h"
   "kestrane/library/*.cpp")
-check_layer("kestrane/(colors|library)/" "kestrane/colors/*.h" "kestrane/colors/*.cpp")
+check_layer("kestrane/(colors|library)/" "kestrane/colors/*.h" "kestrane/colors/*.cpp"
+  "kestrane/colors/detail/*.h")
 check_layer("kestrane/(backend/|axes/Axis\\.h)" "kestrane/backend/*.h")
 check_layer("kestrane/(plots|axes|backend|library)/" "kestrane/plots/*.h" "kestrane/plots/*.cpp"
   "kestrane/plots/detail/*.h" "kestrane/plots/detail/*.cpp")
+check_layer("kestrane/(surfaces|axes|backend|colors|library)/" "kestrane/surfaces/*.h"
+  "kestrane/surfaces/*.cpp" "kestrane/surfaces/detail/*.h" "kestrane/surfaces/detail/*.cpp")
 check_layer("kestrane/backend/|ombrel/" "ombrel/*.h" "ombrel/*.cpp")
 check_layer("kestrane/|hosts/charting/" "hosts/charting/*.h" "hosts/charting/*.cpp")
 check_layer("kestrane/backend/|hosts/data/" "hosts/data/*.h" "hosts/data/*.cpp")
