@@ -1,25 +1,13 @@
 #include "kestrane/colors/ColorMap.h"
 
+#include "kestrane/colors/detail/TruncatedToCount.h"
+
 #include <exception>
 #include <iterator>
-#include <limits>
 #include <utility>
 
 namespace pelorin {
 namespace ui {
-
-namespace {
-
-std::size_t truncatedToCount(double x)
-{
-    if (!(x > 0.0)) // NaN too.
-        return 0;
-    if (x >= 0x1p64)
-        return std::numeric_limits<std::size_t>::max();
-    return static_cast<std::size_t>(x);
-}
-
-} // namespace
 
 ColorMap::Builder::Builder(ColorMap& map)
     : m_map(&map)
@@ -69,7 +57,8 @@ ColorMap::ColorMap(const ColorMap& other, double factor)
     , m_thresholds(other.m_thresholds)
 {
     for (int i = 1; i < m_thresholds.size(); ++i)
-        m_thresholds[i] = truncatedToCount(static_cast<double>(m_thresholds.at(i)) * factor);
+        m_thresholds[i] =
+            detail::truncatedToCount(static_cast<double>(m_thresholds.at(i)) * factor);
     rebuildLookupTable();
 }
 

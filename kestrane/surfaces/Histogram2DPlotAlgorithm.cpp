@@ -1,0 +1,210 @@
+#include "kestrane/surfaces/Histogram2DPlotAlgorithm.h"
+
+#include "kestrane/colors/detail/TruncatedToCount.h"
+#include "kestrane/surfaces/detail/CellGeometry.h"
+#include "kestrane/surfaces/detail/LargestSample.h"
+
+#include <QMutexLocker>
+
+#include <cmath>
+#include <stdexcept>
+
+namespace pelorin {
+namespace ui {
+namespace chart {
+
+namespace {
+
+using HistoSegment = Histogram2DPlotAlgorithm::HistoSegment;
+using CountMode = Histogram2DPlotAlgorithm::CountMode;
+
+template<typename Vector>
+void reserve(Vector& vector, std::size_t size)
+{
+    if (size > vector.max_size())
+        throw std::length_error("vector too long");
+    vector.reserve(size);
+}
+
+backend::SampleVector edges(const detail::Geometry& first, const QList<detail::Geometry>& others)
+{
+    backend::SampleVector result;
+    reserve(result, static_cast<std::size_t>(others.size()) + 1);
+    result.push_back(first.position);
+    for (const detail::Geometry& geometry : others)
+        result.push_back(geometry.position);
+    return result;
+}
+
+std::size_t toCount(unsigned int value)
+{
+    return value;
+}
+
+std::size_t toCount(double value)
+{
+    return ui::detail::truncatedToCount(value);
+}
+
+// The cells of one segment, written to a result one by one.
+class CellWriter
+{
+public:
+    CellWriter(const GeometryCacheEntry& geometry, CountMode mode, const ColorMap& colorMap,
+               HistoSegment& out)
+        : m_geometry(geometry)
+        , m_mode(mode)
+        , m_colorMap(colorMap)
+        , m_out(out)
+    {}
+
+    template<typename T>
+    void writeCells(const backend::MultiDimensionalPlotSegment<T, 2>& segment)
+    {
+        reserveRoom();
+        backend::GridPosition<T> row(segment);
+        row.move(0, m_geometry.firstX.index);
+        row.move(1, m_geometry.firstY.index);
+        long long y = m_geometry.firstY.index;
+        for (const detail::Geometry& next : m_geometry.yGeometries) {
+            writeRow(row, next.index - y);
+            row.move(1, next.index - y);
+            y = next.index;
+        }
+    }
+
+private:
+    void reserveRoom()
+    {
+        const std::size_t cells = static_cast<std::size_t>(m_geometry.xGeometries.size()) *
+                                  static_cast<std::size_t>(m_geometry.yGeometries.size());
+        reserve(m_out.colors, cells);
+        if (m_mode != Histogram2DPlotAlgorithm::NoCounts)
+            reserve(m_out.counts, cells);
+    }
+
+    template<typename T>
+    void writeRow(backend::GridPosition<T> position, long long height)
+    {
+        long long x = m_geometry.firstX.index;
+        for (const detail::Geometry& next : m_geometry.xGeometries) {
+            write(detail::largestSample(position, {next.index - x, height}));
+            position.move(0, next.index - x);
+            x = next.index;
+        }
+    }
+
+    template<typename T>
+    void write(T value)
+    {
+        const double count = static_cast<double>(value);
+        if (m_mode == Histogram2DPlotAlgorithm::LinearCounts)
+            m_out.counts.push_back(count);
+        else if (m_mode == Histogram2DPlotAlgorithm::LogarithmicCounts)
+            m_out.counts.push_back(std::log10(count));
+        m_out.colors.push_back(m_colorMap.mapToColor(toCount(value)));
+        if (count > m_out.maxCount)
+            m_out.maxCount = count;
+    }
+
+    const GeometryCacheEntry& m_geometry;
+    const CountMode m_mode;
+    const ColorMap& m_colorMap;
+    HistoSegment& m_out;
+};
+
+} // namespace
+
+Histogram2DPlotAlgorithm::Histogram2DPlotAlgorithm() = default;
+
+Histogram2DPlotAlgorithm::~Histogram2DPlotAlgorithm() = default;
+
+QVector<HistoSegment> Histogram2DPlotAlgorithm::makeColorArrays(
+    const QSharedPointer<const Axis>& xAxis, const QSharedPointer<const Axis>& yAxis,
+    const ColorMap& colorMap, double xPixelSize, double yPixelSize, bool* geometryChanged)
+{
+    const detail::PixelGrid pixels{xAxis, yAxis, xPixelSize, yPixelSize};
+    QMutexLocker locker(&m_mutex);
+    if (m_snapshot.empty()) {
+        const auto snapshot = m_intSnapshot;
+        locker.unlock();
+        return computeColorArrays(snapshot, pixels, colorMap, geometryChanged);
+    }
+    const auto snapshot = m_snapshot;
+    locker.unlock();
+    return computeColorArrays(snapshot, pixels, colorMap, geometryChanged);
+}
+
+void Histogram2DPlotAlgorithm::clearGeometryCache()
+{
+    QList<HistoCacheEntry> old; // Goes after the unlock, and the axes with it.
+    const QMutexLocker locker(&m_mutex);
+    m_geometryCache.swap(old);
+}
+
+Histogram2DPlotAlgorithm::CountMode Histogram2DPlotAlgorithm::countMode() const
+{
+    const QMutexLocker locker(&m_mutex);
+    return m_countMode;
+}
+
+void Histogram2DPlotAlgorithm::setCountMode(CountMode mode)
+{
+    const QMutexLocker locker(&m_mutex);
+    m_countMode = mode;
+}
+
+template<typename T>
+QVector<HistoSegment> Histogram2DPlotAlgorithm::computeColorArrays(
+    const backend::MultiDimensionalPlotSnapshot<T, 2>& snapshot, const detail::PixelGrid& pixels,
+    const ColorMap& colorMap, bool* geometryChanged)
+{
+    QVector<HistoSegment> result;
+    const bool nothing = !pixels.isUsable() || snapshot.begin() == snapshot.end();
+    if (geometryChanged) {
+        *geometryChanged = nothing;
+        if (pixels.isUsable() && nothing)
+            clearGeometryCache();
+    }
+    if (nothing)
+        return result;
+
+    const CountMode mode = countMode();
+    for (const auto& segment : snapshot) {
+        result.append(HistoSegment());
+        const GeometryCacheEntry geometry =
+            updateCache(result.size() - 1, segment.metaInfo, segment.shape, pixels, result.last(),
+                        geometryChanged);
+        CellWriter(geometry, mode, colorMap, result.last()).writeCells(segment);
+    }
+    return result;
+}
+
+// Works on a copy, so that an axis that throws leaves the cache as it was.
+GeometryCacheEntry
+Histogram2DPlotAlgorithm::updateCache(int index, const std::array<backend::MetaInfo, 2>& metaInfo,
+                                      const std::array<long long, 2>& shape,
+                                      const detail::PixelGrid& pixels, HistoSegment& out,
+                                      bool* geometryChanged)
+{
+    const QMutexLocker locker(&m_mutex);
+    HistoCacheEntry& entry = detail::cacheEntry(m_geometryCache, index);
+    GeometryCacheEntry& cached = entry;
+    GeometryCacheEntry geometry = cached;
+    if (detail::updateGeometry(geometry, metaInfo, shape, pixels)) {
+        if (geometryChanged)
+            *geometryChanged = true;
+        backend::SampleVector xEdges = edges(geometry.firstX, geometry.xGeometries);
+        backend::SampleVector yEdges = edges(geometry.firstY, geometry.yGeometries);
+        entry.xEdges.swap(xEdges);
+        entry.yEdges.swap(yEdges);
+        cached = geometry;
+    }
+    out.xEdges = entry.xEdges;
+    out.yEdges = entry.yEdges;
+    return geometry;
+}
+
+} // namespace chart
+} // namespace ui
+} // namespace pelorin
