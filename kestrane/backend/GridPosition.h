@@ -29,21 +29,20 @@ public:
     /// The sample at this place.
     const T& operator*() const { return m_segment->base[offset()]; }
 
-    /// Calls visit(sample) for each sample of the block that begins at this place, in whichever
-    /// order is that of the memory. A size of 0 or less in any dimension is no sample at all.
+    /// Walks the block that begins at this place, row by row: calls visit(first, count, stride) for
+    /// each row of samples, first[0] to first[(count - 1) * stride]. Rows lie along whichever
+    /// dimension is the denser in memory. A size of 0 or less in any dimension is no sample at all.
     template<typename Visit>
-    void visitBlock(const std::array<long long, 2>& size, Visit&& visit) const
+    void visitRows(const std::array<long long, 2>& size, Visit&& visit) const
     {
         const auto& strides = m_segment->strides;
         const std::size_t inner = std::llabs(strides[1]) < std::llabs(strides[0]) ? 1 : 0;
         const std::size_t outer = 1 - inner;
-        const T* const base = m_segment->base;
+        if (size[inner] <= 0)
+            return;
         long long row = offset();
-        for (long long k = 0; k < size[outer]; ++k, row += strides[outer]) {
-            long long element = row;
-            for (long long i = 0; i < size[inner]; ++i, element += strides[inner])
-                visit(base[element]);
-        }
+        for (long long k = 0; k < size[outer]; ++k, row += strides[outer])
+            visit(m_segment->base + row, size[inner], strides[inner]);
     }
 
 private:

@@ -115,6 +115,13 @@ private:
 
 } // namespace
 
+struct Histogram2DPlotAlgorithm::Request
+{
+    detail::PixelGrid pixels;
+    const ColorMap& colorMap;
+    bool* geometryChanged;
+};
+
 Histogram2DPlotAlgorithm::Histogram2DPlotAlgorithm() = default;
 
 Histogram2DPlotAlgorithm::~Histogram2DPlotAlgorithm() = default;
@@ -123,16 +130,16 @@ QVector<HistoSegment> Histogram2DPlotAlgorithm::makeColorArrays(
     const QSharedPointer<const Axis>& xAxis, const QSharedPointer<const Axis>& yAxis,
     const ColorMap& colorMap, double xPixelSize, double yPixelSize, bool* geometryChanged)
 {
-    const detail::PixelGrid pixels{xAxis, yAxis, xPixelSize, yPixelSize};
+    const Request request{{xAxis, yAxis, xPixelSize, yPixelSize}, colorMap, geometryChanged};
     QMutexLocker locker(&m_mutex);
     if (m_snapshot.empty()) {
         const auto snapshot = m_intSnapshot;
         locker.unlock();
-        return computeColorArrays(snapshot, pixels, colorMap, geometryChanged);
+        return computeColorArrays(snapshot, request);
     }
     const auto snapshot = m_snapshot;
     locker.unlock();
-    return computeColorArrays(snapshot, pixels, colorMap, geometryChanged);
+    return computeColorArrays(snapshot, request);
 }
 
 void Histogram2DPlotAlgorithm::clearGeometryCache()
@@ -156,14 +163,14 @@ void Histogram2DPlotAlgorithm::setCountMode(CountMode mode)
 
 template<typename T>
 QVector<HistoSegment> Histogram2DPlotAlgorithm::computeColorArrays(
-    const backend::MultiDimensionalPlotSnapshot<T, 2>& snapshot, const detail::PixelGrid& pixels,
-    const ColorMap& colorMap, bool* geometryChanged)
+    const backend::MultiDimensionalPlotSnapshot<T, 2>& snapshot, const Request& request)
 {
     QVector<HistoSegment> result;
-    const bool nothing = !pixels.isUsable() || snapshot.begin() == snapshot.end();
-    if (geometryChanged) {
-        *geometryChanged = nothing;
-        if (pixels.isUsable() && nothing)
+    const bool usable = request.pixels.isUsable();
+    const bool nothing = !usable || snapshot.begin() == snapshot.end();
+    if (request.geometryChanged) {
+        *request.geometryChanged = nothing;
+        if (usable && nothing)
             clearGeometryCache();
     }
     if (nothing)
@@ -171,11 +178,12 @@ QVector<HistoSegment> Histogram2DPlotAlgorithm::computeColorArrays(
 
     const CountMode mode = countMode();
     for (const auto& segment : snapshot) {
+        const int index = result.size();
         result.append(HistoSegment());
+        HistoSegment& out = result.last();
         const GeometryCacheEntry geometry =
-            updateCache(result.size() - 1, segment.metaInfo, segment.shape, pixels, result.last(),
-                        geometryChanged);
-        CellWriter(geometry, mode, colorMap, result.last()).writeCells(segment);
+            updateCache(index, segment.metaInfo, segment.shape, request, out);
+        CellWriter(geometry, mode, request.colorMap, out).writeCells(segment);
     }
     return result;
 }
@@ -183,17 +191,16 @@ QVector<HistoSegment> Histogram2DPlotAlgorithm::computeColorArrays(
 // Works on a copy, so that an axis that throws leaves the cache as it was.
 GeometryCacheEntry
 Histogram2DPlotAlgorithm::updateCache(int index, const std::array<backend::MetaInfo, 2>& metaInfo,
-                                      const std::array<long long, 2>& shape,
-                                      const detail::PixelGrid& pixels, HistoSegment& out,
-                                      bool* geometryChanged)
+                                      const std::array<long long, 2>& shape, const Request& request,
+                                      HistoSegment& out)
 {
     const QMutexLocker locker(&m_mutex);
     HistoCacheEntry& entry = detail::cacheEntry(m_geometryCache, index);
     GeometryCacheEntry& cached = entry;
     GeometryCacheEntry geometry = cached;
-    if (detail::updateGeometry(geometry, metaInfo, shape, pixels)) {
-        if (geometryChanged)
-            *geometryChanged = true;
+    if (detail::updateGeometry(geometry, metaInfo, shape, request.pixels)) {
+        if (request.geometryChanged)
+            *request.geometryChanged = true;
         backend::SampleVector xEdges = edges(geometry.firstX, geometry.xGeometries);
         backend::SampleVector yEdges = edges(geometry.firstY, geometry.yGeometries);
         entry.xEdges.swap(xEdges);

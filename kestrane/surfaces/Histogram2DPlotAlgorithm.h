@@ -21,10 +21,6 @@ namespace pelorin {
 namespace ui {
 namespace chart {
 
-namespace detail {
-struct PixelGrid;
-}
-
 /// Turns two-dimensional data into coloured rectangles, in axis space.
 ///
 /// Cells are laid over the grid of each segment, one for each pixel that samples fall into. The
@@ -95,16 +91,16 @@ public:
     void setCountMode(CountMode mode);
 
 private:
+    struct Request; // The arguments of a call.
+
     template<typename T>
     QVector<HistoSegment>
     computeColorArrays(const backend::MultiDimensionalPlotSnapshot<T, 2>& snapshot,
-                       const detail::PixelGrid& pixels, const ColorMap& colorMap,
-                       bool* geometryChanged);
+                       const Request& request);
 
     GeometryCacheEntry updateCache(int index, const std::array<backend::MetaInfo, 2>& metaInfo,
-                                   const std::array<long long, 2>& shape,
-                                   const detail::PixelGrid& pixels, HistoSegment& out,
-                                   bool* geometryChanged);
+                                   const std::array<long long, 2>& shape, const Request& request,
+                                   HistoSegment& out);
 
     QList<HistoCacheEntry> m_geometryCache; // Entry n belongs to segment n of either snapshot.
     CountMode m_countMode = NoCounts;

@@ -33,7 +33,10 @@ protected:
         std::vector<T> result;
         GridPosition<T> row(segment);
         if (asBlock)
-            row.visitBlock(segment.shape, [&](T sample) { result.push_back(sample); });
+            row.visitRows(segment.shape, [&](const T* first, long long count, long long stride) {
+                for (long long k = 0; k < count; ++k)
+                    result.push_back(first[k * stride]);
+            });
         for (long long i1 = 0; i1 < segment.shape[1] && !asBlock; ++i1, row.move(1, 1)) {
             GridPosition<T> position = row;
             for (long long i0 = 0; i0 < segment.shape[0]; ++i0, position.move(0, 1))

@@ -10,16 +10,30 @@ namespace ui {
 namespace chart {
 namespace detail {
 
+/// Of the two values, @p candidate if it is greater: NaN is not.
+template<typename T>
+T greater(T candidate, T value)
+{
+    return candidate > value ? candidate : value;
+}
+
 /// The value of a cell: the largest sample of the block that begins at @p position, at least 0.
 /// Samples of NaN don't count. Each sample is read once.
 template<typename T>
 T largestSample(const backend::GridPosition<T>& position, const std::array<long long, 2>& size)
 {
     T largest = 0;
-    position.visitBlock(size, [&largest](T sample) {
-        largest = sample > largest ? sample : largest; // False for NaN.
+    T other = 0; // Of every other sample, since one value would have to wait for itself.
+    position.visitRows(size, [&](const T* samples, long long count, long long stride) {
+        long long k = 0;
+        for (; k + 1 < count; k += 2) {
+            largest = greater(samples[k * stride], largest);
+            other = greater(samples[(k + 1) * stride], other);
+        }
+        if (k < count)
+            largest = greater(samples[k * stride], largest);
     });
-    return largest;
+    return greater(other, largest);
 }
 
 } // namespace detail
