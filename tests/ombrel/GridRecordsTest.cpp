@@ -22,7 +22,7 @@ protected:
     static boost::shared_ptr<const T[]> samples()
     {
         const auto result = boost::make_shared<T[]>(12);
-        for (std::size_t k = 0; k < 12; ++k)
+        for (int k = 0; k < 12; ++k)
             result[k] = static_cast<T>(k / 4 * 10 + k % 4);
         return result;
     }

@@ -113,3 +113,15 @@ TEST_F(NeedlePlot2DAlgorithmTest, WithoutCellsOrPixelsThereAreNoNeedles)
     EXPECT_TRUE(plot.makeNeedles(axis, axis, start, end, 0, 1).isEmpty());
     EXPECT_TRUE(plot.makeNeedles(axis, axis, start, end, 1, 0).isEmpty());
 }
+
+TEST_F(NeedlePlot2DAlgorithmTest, CellsKeepTheAxesThatTheyWereMadeWith)
+{
+    plot.setSnapshot(Grids<double>({columns({{1, 2}, {3, 4}})}));
+    ask();
+    const QWeakPointer<const Axis> first = axis;
+    axis.reset(axis->clone());
+    ask();
+    EXPECT_TRUE(first);
+    plot.clearGeometryCache();
+    EXPECT_FALSE(first);
+}

@@ -33,21 +33,23 @@ struct Layout
     long long originOffset;
 };
 
+Indices randomShape(Dice& dice)
+{
+    const auto length = [&] { return static_cast<long long>(dice.oneOf({0, 1, 2, 9, 24, 24})); };
+    return {length(), length()};
+}
+
 Layout randomLayout(Dice& dice)
 {
-    const auto length = [&] {
-        return static_cast<long long>(dice.oneOf({0, 1, 2, 3, 9, 24, 24, 24}));
-    };
-    const Indices shape{length(), length()};
     Indices strides{1, 25};
     if (dice.upTo(1))
         std::swap(strides[0], strides[1]);
     long long origin = dice.upTo(1);
     if (dice.upTo(4) == 0) {
-        origin += strides[0] * shape[0];
+        origin += strides[0] * 24;
         strides[0] = -strides[0];
     }
-    return {{randomMetaInfo(dice), randomMetaInfo(dice)}, shape, strides, origin};
+    return {{randomMetaInfo(dice), randomMetaInfo(dice)}, randomShape(dice), strides, origin};
 }
 
 template<typename T>
@@ -154,6 +156,8 @@ struct Plots
             request.xAxis.reset(request.xAxis->clone()); // An equal one of ours, not of a host's.
         else if (what == 9)
             clear();
+        else if (what == 10 && !layouts.empty())
+            layouts.back().shape = randomShape(dice);
     }
 
     void clear()
@@ -227,7 +231,7 @@ TEST(SurfaceDifferentialTest, AgreesWithThePlainRulesBitForBit)
         for (int call = 0; call < 8 && !HasFailure(); ++call) {
             plots.compareHistograms();
             plots.compareNeedles();
-            plots.change(dice.upTo(11));
+            plots.change(dice.upTo(12));
         }
         cells += plots.cells;
         needles += plots.needles;
