@@ -30,8 +30,8 @@ PlotSnapshot positions(long long count, bool inOrder)
 
 void report(benchmark::State& state, long long count)
 {
-    state.counters["samples/s"] = benchmark::Counter(static_cast<double>(count * state.iterations()),
-                                                     benchmark::Counter::kIsRate);
+    state.counters["samples/s"] = benchmark::Counter(
+        static_cast<double>(count * state.iterations()), benchmark::Counter::kIsRate);
     state.counters["pass ns/sample"] =
         secondsOfPlainPass(*samples(count)) * 1e9 / static_cast<double>(count);
 }

@@ -18,8 +18,9 @@ const QColor startColor(20, 200, 30, 40), endColor(220, 100, 30, 240);
 
 MetaInfo randomMetaInfo(Dice& dice)
 {
-    const double offset = dice.upTo(19) ? dice.oneOf({0.0, 0.25, -3.0, dice.between(-9.0, 9.0)})
-                                        : dice.oneOf({NaN, Infinity, 1e300});
+    const double offset = dice.upTo(19)
+                              ? dice.oneOf({0.0, 0.25, 1.0, -3.0, dice.between(-9.0, 9.0)})
+                              : dice.oneOf({NaN, Infinity, 1e300});
     const double scale = dice.upTo(19) ? dice.oneOf({1.0, 0.25, 0.1, 0.05, dice.between(0.01, 2.0)})
                                        : dice.oneOf({NaN, -0.7, 1e300, 0.0});
     return MetaInfo(offset, scale, dice.upTo(4) ? Axis::Linear : Axis::Logarithmic);
