@@ -7,7 +7,6 @@
 #include <QMutexLocker>
 
 #include <utility>
-#include <vector>
 
 namespace pelorin {
 namespace ui {
@@ -52,25 +51,7 @@ private:
     Component m_red, m_green, m_blue, m_alpha;
 };
 
-// What there is of a column of cells from the top down to some row.
-struct Column
-{
-    double sum = 0.0;
-    QVector<std::size_t> sums; // At the points of the needle, whose colours are left open.
-    Needle needle;
-
-    void add(double value, double x, double y)
-    {
-        const double previous = sum;
-        sum += value;
-        if (sum == previous)
-            return;
-        sums.append(ui::detail::truncatedToCount(sum));
-        needle.append({x, y, QColor()});
-    }
-};
-
-// Makes needles segment by segment. The largest sum lasts from one to the next.
+// Makes needles column by column. The largest sum lasts from one to the next, over all segments.
 class NeedleMaker
 {
 public:
@@ -78,59 +59,63 @@ public:
         : m_ramp(ramp)
     {}
 
-    // All columns grow at once, row by row, since samples mostly lie in memory in this order. A
-    // column's colours need its own total and those before it, and so come last.
     void appendNeedles(const Segment& segment, const GeometryCacheEntry& geometry,
                        QVector<Needle>& needles)
     {
-        const QList<detail::Geometry>& edges = geometry.yGeometries;
-        if (edges.isEmpty())
+        if (geometry.yGeometries.isEmpty())
             return;
-        std::vector<Column> columns(static_cast<std::size_t>(geometry.xGeometries.size()));
-        for (int top = edges.size() - 1; top >= 0; --top)
-            addRow(segment, geometry, top > 0 ? edges.at(top - 1) : geometry.firstY, edges.at(top),
-                   columns);
-        needles.reserve(needles.size() + geometry.xGeometries.size());
-        for (Column& column : columns) {
-            finish(column);
-            needles.append(std::move(column.needle));
+        detail::Geometry left = geometry.firstX;
+        for (const detail::Geometry& right : geometry.xGeometries) {
+            Needle needle = risingPoints(segment, geometry, left, right);
+            finish(needle, (left.position + right.position) * 0.5);
+            needles.append(std::move(needle));
+            left = right;
         }
     }
 
 private:
-    static void addRow(const Segment& segment, const GeometryCacheEntry& geometry,
-                       const detail::Geometry& lower, const detail::Geometry& upper,
-                       std::vector<Column>& columns)
+    // From the top down a point wherever the sum grows; the sums are left for the colours.
+    Needle risingPoints(const Segment& segment, const GeometryCacheEntry& geometry,
+                        const detail::Geometry& left, const detail::Geometry& right)
     {
-        const double y = (upper.position + lower.position) * 0.5;
-        backend::GridPosition<double> position(segment);
-        position.move(0, geometry.firstX.index);
-        position.move(1, lower.index);
-        detail::Geometry left = geometry.firstX;
-        auto column = columns.begin();
-        for (const detail::Geometry& right : geometry.xGeometries) {
-            const long long width = right.index - left.index;
-            column->add(detail::largestSample(position, {width, upper.index - lower.index}),
-                        (left.position + right.position) * 0.5, y);
-            position.move(0, width);
-            left = right;
-            ++column;
+        const double middle = (left.position + right.position) * 0.5;
+        const QList<detail::Geometry>& edges = geometry.yGeometries;
+        Needle needle;
+        m_sums.clear();
+        double sum = 0.0;
+        double previous = 0.0;
+        for (int top = edges.size() - 1; top >= 0; --top) {
+            const detail::Geometry& upper = edges.at(top);
+            const detail::Geometry& lower = top > 0 ? edges.at(top - 1) : geometry.firstY;
+            backend::GridPosition<double> position(segment);
+            position.move(0, left.index);
+            position.move(1, lower.index);
+            sum += detail::largestSample(position,
+                                         {right.index - left.index, upper.index - lower.index});
+            if (sum == previous)
+                continue;
+            previous = sum;
+            if (sum > m_maxSum)
+                m_maxSum = sum;
+            m_sums.append(ui::detail::truncatedToCount(sum));
+            needle.append({middle, (upper.position + lower.position) * 0.5, QColor()});
         }
+        return needle;
     }
 
-    void finish(Column& column)
+    // Once the column is complete, its own total counts for its colours.
+    void finish(Needle& needle, double middle) const
     {
-        if (column.sum > m_maxSum)
-            m_maxSum = column.sum;
-        Needle& needle = column.needle;
+        if (needle.isEmpty())
+            return;
         for (int k = 0; k < needle.size(); ++k)
-            needle[k].color = m_ramp.at(static_cast<double>(column.sums.at(k)) / m_maxSum);
-        if (!needle.isEmpty())
-            needle.append({needle.last().x, 0.0, QColor(needle.last().color)});
+            needle[k].color = m_ramp.at(static_cast<double>(m_sums.at(k)) / m_maxSum);
+        needle.append({middle, 0.0, QColor(needle.last().color)});
     }
 
     const ColorRamp m_ramp;
     double m_maxSum = 0.0;
+    QVector<std::size_t> m_sums; // Of the column at hand.
 };
 
 } // namespace
