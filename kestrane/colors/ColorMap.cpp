@@ -2,8 +2,9 @@
 
 #include "kestrane/colors/detail/TruncatedToCount.h"
 
+#include <QMap>
+
 #include <exception>
-#include <iterator>
 #include <utility>
 
 namespace pelorin {
@@ -80,13 +81,13 @@ ColorMap::Builder ColorMap::appendEntry(QColor color, std::size_t threshold)
 
 bool ColorMap::isUnmatched(std::size_t value) const
 {
-    return classOf(value) == m_lookupTable.constEnd();
+    return classOf(value) < 0;
 }
 
 QColor ColorMap::mapToColor(std::size_t value) const
 {
-    const auto found = classOf(value);
-    return found == m_lookupTable.constEnd() ? m_unmatchedColor : *found;
+    const int index = classOf(value);
+    return index < 0 ? m_unmatchedColor : m_sortedColors.at(index);
 }
 
 QColor ColorMap::unmatchedColor() const
@@ -116,19 +117,36 @@ QVector<QColor> ColorMap::colors() const
 
 void ColorMap::rebuildLookupTable()
 {
-    Table table;
+    QMap<std::size_t, QColor> table;
     for (int i = 0; i < m_thresholds.size(); ++i)
         table.insert(m_thresholds.at(i), m_colors.at(i)); // Of equal ones the last stays.
-    m_lookupTable = std::move(table);
+    QVector<std::size_t> thresholds;
+    QVector<QColor> colors;
+    thresholds.reserve(table.size());
+    colors.reserve(table.size());
+    for (auto entry = table.cbegin(); entry != table.cend(); ++entry) {
+        thresholds.append(entry.key());
+        colors.append(entry.value());
+    }
+    m_sortedThresholds.swap(thresholds);
+    m_sortedColors.swap(colors);
 }
 
-// The end of the table for a count that no class takes.
-ColorMap::Table::const_iterator ColorMap::classOf(std::size_t value) const
+// The last class that begins at or below a count, or -1. Without a branch in the search, since
+// no processor can foresee the ways of counts.
+int ColorMap::classOf(std::size_t value) const
 {
-    if (value == 0)
-        return m_lookupTable.constEnd();
-    const auto next = m_lookupTable.upperBound(value);
-    return next == m_lookupTable.constBegin() ? m_lookupTable.constEnd() : std::prev(next);
+    int size = m_sortedThresholds.size();
+    if (value == 0 || size == 0)
+        return -1;
+    const std::size_t* const begin = m_sortedThresholds.constData();
+    const std::size_t* place = begin;
+    while (size > 1) {
+        const int half = size / 2;
+        place = place[half] <= value ? place + half : place;
+        size -= half;
+    }
+    return *place <= value ? static_cast<int>(place - begin) : -1;
 }
 
 } // namespace ui

@@ -4,7 +4,6 @@
 #include "kestrane/library/Export.h"
 
 #include <QColor>
-#include <QMap>
 #include <QMetaType>
 #include <QVector>
 
@@ -110,14 +109,15 @@ protected:
     void rebuildLookupTable();
 
 private:
-    using Table = QMap<std::size_t, QColor>;
-
-    Table::const_iterator classOf(std::size_t value) const;
+    int classOf(std::size_t value) const;
 
     QColor m_unmatchedColor;
     QVector<QColor> m_colors;
     QVector<std::size_t> m_thresholds;
-    Table m_lookupTable; // Threshold to colour.
+
+    // For lookup: the thresholds, ascending and each one once, and the colours that they lead to.
+    QVector<std::size_t> m_sortedThresholds;
+    QVector<QColor> m_sortedColors;
 };
 
 } // namespace ui
