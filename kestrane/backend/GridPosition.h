@@ -29,14 +29,21 @@ public:
     /// The sample at this place.
     const T& operator*() const { return m_segment->base[offset()]; }
 
+    /// The dimension whose samples lie nearer to each other in memory.
+    std::size_t denserDimension() const
+    {
+        const auto& strides = m_segment->strides;
+        return std::llabs(strides[1]) < std::llabs(strides[0]) ? 1 : 0;
+    }
+
     /// Walks the block that begins at this place, row by row: calls visit(first, count, stride) for
-    /// each row of samples, first[0] to first[(count - 1) * stride]. Rows lie along whichever
-    /// dimension is the denser in memory. A size of 0 or less in any dimension is no sample at all.
+    /// each row of samples, first[0] to first[(count - 1) * stride]. Rows lie along
+    /// denserDimension(). A size of 0 or less in any dimension is no sample at all.
     template<typename Visit>
     void visitRows(const std::array<long long, 2>& size, Visit&& visit) const
     {
         const auto& strides = m_segment->strides;
-        const std::size_t inner = std::llabs(strides[1]) < std::llabs(strides[0]) ? 1 : 0;
+        const std::size_t inner = denserDimension();
         const std::size_t outer = 1 - inner;
         if (size[inner] <= 0)
             return;

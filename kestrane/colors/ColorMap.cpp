@@ -1,5 +1,6 @@
 #include "kestrane/colors/ColorMap.h"
 
+#include "kestrane/colors/detail/ColorLookup.h"
 #include "kestrane/colors/detail/TruncatedToCount.h"
 
 #include <QMap>
@@ -81,13 +82,12 @@ ColorMap::Builder ColorMap::appendEntry(QColor color, std::size_t threshold)
 
 bool ColorMap::isUnmatched(std::size_t value) const
 {
-    return classOf(value) < 0;
+    return detail::ColorLookup(*this).classOf(value) < 0;
 }
 
 QColor ColorMap::mapToColor(std::size_t value) const
 {
-    const int index = classOf(value);
-    return index < 0 ? m_unmatchedColor : m_sortedColors.at(index);
+    return detail::ColorLookup(*this).colorOf(value);
 }
 
 QColor ColorMap::unmatchedColor() const
@@ -130,23 +130,6 @@ void ColorMap::rebuildLookupTable()
     }
     m_sortedThresholds.swap(thresholds);
     m_sortedColors.swap(colors);
-}
-
-// The last class that begins at or below a count, or -1. Without a branch in the search, since
-// no processor can foresee the ways of counts.
-int ColorMap::classOf(std::size_t value) const
-{
-    int size = m_sortedThresholds.size();
-    if (value == 0 || size == 0)
-        return -1;
-    const std::size_t* const begin = m_sortedThresholds.constData();
-    const std::size_t* place = begin;
-    while (size > 1) {
-        const int half = size / 2;
-        place = place[half] <= value ? place + half : place;
-        size -= half;
-    }
-    return *place <= value ? static_cast<int>(place - begin) : -1;
 }
 
 } // namespace ui

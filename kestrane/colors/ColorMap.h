@@ -12,6 +12,10 @@
 namespace pelorin {
 namespace ui {
 
+namespace detail {
+class ColorLookup;
+}
+
 /// Turns a count into a colour, as the cells of a two-dimensional histogram need it.
 ///
 /// A class of the map is a colour with a threshold, the smallest count that it takes. It ends
@@ -109,7 +113,7 @@ protected:
     void rebuildLookupTable();
 
 private:
-    int classOf(std::size_t value) const;
+    friend class detail::ColorLookup;
 
     QColor m_unmatchedColor;
     QVector<QColor> m_colors;

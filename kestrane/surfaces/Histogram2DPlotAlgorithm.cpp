@@ -1,11 +1,13 @@
 #include "kestrane/surfaces/Histogram2DPlotAlgorithm.h"
 
+#include "kestrane/colors/detail/ColorLookup.h"
 #include "kestrane/colors/detail/TruncatedToCount.h"
 #include "kestrane/surfaces/detail/CellGeometry.h"
 #include "kestrane/surfaces/detail/LargestSample.h"
 
 #include <QMutexLocker>
 
+#include <algorithm>
 #include <cmath>
 #include <stdexcept>
 
@@ -54,7 +56,7 @@ public:
                HistoSegment& out)
         : m_geometry(geometry)
         , m_mode(mode)
-        , m_colorMap(colorMap)
+        , m_lookup(colorMap)
         , m_out(out)
     {}
 
@@ -62,12 +64,15 @@ public:
     void writeCells(const backend::MultiDimensionalPlotSegment<T, 2>& segment)
     {
         reserveRoom();
+        if (m_geometry.xGeometries.isEmpty())
+            return;
+        std::vector<T> line;
         backend::GridPosition<T> row(segment);
         row.move(0, m_geometry.firstX.index);
         row.move(1, m_geometry.firstY.index);
         long long y = m_geometry.firstY.index;
         for (const detail::Geometry& next : m_geometry.yGeometries) {
-            writeRow(row, next.index - y);
+            writeRow(row, next.index - y, line);
             row.move(1, next.index - y);
             y = next.index;
         }
@@ -84,7 +89,37 @@ private:
     }
 
     template<typename T>
-    void writeRow(backend::GridPosition<T> position, long long height)
+    void writeRow(const backend::GridPosition<T>& position, long long height, std::vector<T>& line)
+    {
+        if (position.denserDimension() == 0)
+            writeRowByLines(position, height, line);
+        else
+            writeRowByCells(position, height);
+    }
+
+    // The samples of a column of the row are put together first, in the order of the memory.
+    template<typename T>
+    void writeRowByLines(const backend::GridPosition<T>& position, long long height,
+                         std::vector<T>& line)
+    {
+        const long long first = m_geometry.firstX.index;
+        const long long width = m_geometry.xGeometries.last().index - first;
+        line.assign(static_cast<std::size_t>(std::max(width, 0LL)), 0);
+        position.visitRows({width, height}, [&](const T* samples, long long count, long long step) {
+            detail::raise(line.data(), samples, count, step);
+        });
+        const T* const start = line.data() - first;
+        long long x = first;
+        for (const detail::Geometry& next : m_geometry.xGeometries) {
+            T largest = 0;
+            for (; x < next.index; ++x)
+                largest = detail::greater(start[x], largest);
+            write(largest);
+        }
+    }
+
+    template<typename T>
+    void writeRowByCells(backend::GridPosition<T> position, long long height)
     {
         long long x = m_geometry.firstX.index;
         for (const detail::Geometry& next : m_geometry.xGeometries) {
@@ -102,14 +137,14 @@ private:
             m_out.counts.push_back(count);
         else if (m_mode == Histogram2DPlotAlgorithm::LogarithmicCounts)
             m_out.counts.push_back(std::log10(count));
-        m_out.colors.push_back(m_colorMap.mapToColor(toCount(value)));
+        m_out.colors.push_back(m_lookup.colorOf(toCount(value)));
         if (count > m_out.maxCount)
             m_out.maxCount = count;
     }
 
     const GeometryCacheEntry& m_geometry;
     const CountMode m_mode;
-    const ColorMap& m_colorMap;
+    const ui::detail::ColorLookup m_lookup;
     HistoSegment& m_out;
 };
 

@@ -5,6 +5,10 @@
 
 #include <array>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace pelorin {
 namespace ui {
 namespace chart {
@@ -35,6 +39,33 @@ T largestSample(const backend::GridPosition<T>& position, const std::array<long 
     });
     return greater(other, largest);
 }
+
+/// Raises each of some values to the sample in its place, unless that is less or NaN.
+template<typename T>
+void raise(T* values, const T* samples, long long count, long long stride)
+{
+    if (stride == 1) {
+        for (long long k = 0; k < count; ++k)
+            values[k] = greater(samples[k], values[k]);
+    } else {
+        for (long long k = 0; k < count; ++k)
+            values[k] = greater(samples[k * stride], values[k]);
+    }
+}
+
+#ifdef __SSE2__
+
+/// The processor's maximum gives its second operand where one is NaN.
+inline void raise(double* values, const double* samples, long long count, long long stride)
+{
+    long long k = 0;
+    for (; stride == 1 && k + 2 <= count; k += 2)
+        _mm_storeu_pd(values + k, _mm_max_pd(_mm_loadu_pd(samples + k), _mm_loadu_pd(values + k)));
+    for (; k < count; ++k)
+        values[k] = greater(samples[k * stride], values[k]);
+}
+
+#endif
 
 } // namespace detail
 } // namespace chart
