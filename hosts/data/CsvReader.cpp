@@ -2,7 +2,6 @@
 
 #include "hosts/data/CellNumber.h"
 #include "hosts/data/ColumnChoice.h"
-#include "hosts/data/CsvParser.h"
 #include "hosts/data/SampleRuns.h"
 #include "hosts/data/TimeGrid.h"
 
@@ -14,7 +13,6 @@ namespace hosts::data {
 
 namespace {
 
-constexpr qint64 ChunkSize = qint64(1) << 18;
 constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 /// Takes the rows of values, chosen columns only.
@@ -198,35 +196,14 @@ std::vector<Series> TableCollector::series() const
     return result;
 }
 
-QByteArray readChunk(QFile& file)
-{
-    const QByteArray chunk = file.read(ChunkSize);
-    if (chunk.isEmpty() && file.error() != QFileDevice::NoError)
-        throw ReadError(file.fileName(), file.errorString());
-    return chunk;
-}
-
-std::string_view viewOf(const QByteArray& bytes)
-{
-    return {bytes.constData(), static_cast<std::size_t>(bytes.size())};
-}
-
 } // namespace
 
-std::vector<Series> readCsv(QFile& file, const ReadOptions& options, const Progress& progress)
+std::vector<Series> readCsv(RecordingFile& file, const ReadOptions& options,
+                            const Progress& progress)
 {
-    const QByteArray beginning = readChunk(file);
-    const CsvHead head =
-        readCsvHead(file.fileName(), viewOf(beginning), beginning.size() == file.size());
-    TableCollector collector(file.fileName(), head, options);
-    CsvParser parser(file.fileName(), head.separator, head.line, collector);
-    file.seek(head.begin);
-    for (QByteArray chunk = readChunk(file); !chunk.isEmpty(); chunk = readChunk(file)) {
-        parser.feed(viewOf(chunk));
-        const double size = static_cast<double>(std::max(file.size(), file.pos()));
-        progress(static_cast<double>(file.pos()) / size);
-    }
-    parser.finish();
+    const CsvHead head = file.tableHead();
+    TableCollector collector(file.path(), head, options);
+    file.readTable(head, collector, progress);
     return collector.series();
 }
 

@@ -1,15 +1,14 @@
 #ifndef HOSTS_DATA_CSVREADER_H
 #define HOSTS_DATA_CSVREADER_H
 
-#include "hosts/data/RecordingReader.h"
-
-#include <QFile>
+#include "hosts/data/RecordingFile.h"
 
 namespace hosts::data {
 
-/// Reads the table in @p file, open at its beginning, as readRecording() tells.
+/// Reads the table in @p file as readRecording() tells.
 /// @throws ReadError
-std::vector<Series> readCsv(QFile& file, const ReadOptions& options, const Progress& progress);
+std::vector<Series> readCsv(RecordingFile& file, const ReadOptions& options,
+                            const Progress& progress);
 
 } // namespace hosts::data
 

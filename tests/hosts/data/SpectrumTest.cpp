@@ -1,5 +1,6 @@
 #include "hosts/data/Spectrum.h"
 #include "hosts/data/Slope.h"
+#include "hosts/data/Spectrogram.h"
 
 #include <gtest/gtest.h>
 
@@ -89,6 +90,44 @@ TEST(SpectrumTest, IsThatOfTheLongestRunWhichNeedsFourSamples)
     EXPECT_EQ(spectrumOf(seriesOf(4, gapAt(-1))).snapshot.segments[0].count, 2);
     for (const int samples : {0, 3, 7})
         EXPECT_THROW(spectrumOf(seriesOf(samples, gapAt(3))), std::runtime_error) << samples;
+}
+
+TEST(SpectrogramTest, TellsAmplitudesAroundTheMiddleOfEachStretchAndLeavesGapsOpen)
+{
+    // Bin 4, then bin 10, of stretches of 32; a gap, and a run that is too short.
+    const std::vector<Grid> grids =
+        spectrogramOf(seriesOf(120,
+                               [](double i) {
+                                   return i >= 96 && i != 110 ? sine(0.25, i)
+                                          : i == 110 || i == 95
+                                              ? std::nan("")
+                                              : 3.0 * sine(i < 48 ? 0.125 : 0.3125, i);
+                               }),
+                      {33, 0.5});
+    ASSERT_EQ(grids.size(), 1u);
+    EXPECT_EQ(grids[0].metaInfo[0], MetaInfo(5.0 + 2.0, 4.0));
+    EXPECT_EQ(grids[0].metaInfo[1], MetaInfo(0.0625, 0.125));
+    ASSERT_EQ(grids[0].shape, (std::array<long long, 2>{4, 16}));
+    const double expected[4][2] = {{3, 0}, {3, 0}, {-1, -1}, {0, 3}};
+    for (int column : {0, 1, 3}) {
+        EXPECT_NEAR(grids[0].at(column, 3), expected[column][0], 1e-9) << column;
+        EXPECT_NEAR(grids[0].at(column, 9), expected[column][1], 1e-9) << column;
+    }
+}
+
+TEST(SpectrogramTest, KeepsTheGreatestAmplitudesOfALongSeriesInFewColumns)
+{
+    const Series series = seriesOf(100000, [](double i) { return i == 60000 ? 1.0 : 0.0; });
+    const Grid grid = spectrogramOf(series, {16, 0.75}).front();
+    EXPECT_GT(grid.shape[0], 3000);
+    EXPECT_LE(grid.shape[0], 4096);
+    const auto loud =
+        (long long)(((60000 * 0.25 + 5.0) - grid.metaInfo[0].offset) / grid.metaInfo[0].scale);
+    EXPECT_GT(grid.at(loud, 3), 0.1);
+    EXPECT_EQ(grid.at(loud - 2, 3), 0.0);
+    EXPECT_EQ(spectrogramOf(series, {100000, 0.0}).front().shape[0], 1);
+    EXPECT_THROW(spectrogramOf(series, {100001, 0.0}), std::runtime_error);
+    EXPECT_THROW(spectrogramOf(seriesOf(3, [](double) { return 1.0; }), {}), std::runtime_error);
 }
 
 TEST(SlopeTest, StandsHalfWayBetweenTwoSamplesInARow)
