@@ -2,7 +2,9 @@
 #define HOSTS_CHARTING_CHART_H
 
 #include "hosts/charting/AxisView.h"
+#include "hosts/charting/ColorBar.h"
 
+#include <QImage>
 #include <QPointF>
 #include <QString>
 #include <QStringList>
@@ -36,6 +38,7 @@ struct ChartTexts
     QVector<TickMark> xMarks; ///< Highest rank first, as are the next.
     QVector<TickMark> yMarks;
     QVector<TickMark> cursors; ///< Vertical lines, the most important first; with one line each.
+    ColorBar colorBar;         ///< Empty in a chart of curves.
 };
 
 /// A whole chart, ready to be painted.
@@ -46,6 +49,8 @@ struct Chart
     AxisView y;
     QVector<Curve> curves;
     QVector<Crossing> crossings; ///< All within the plot.
+    /// What fills the plot below curves, as large as ChartLayout::plotPixels(); null for nothing.
+    QImage surface = {};
 
     /// Where in the plot a point of a curve lies, as shares of its width and height.
     QPointF placeOf(const QPointF& point) const { return {x.place(point.x()), y.place(point.y())}; }

@@ -24,8 +24,12 @@ constexpr double entryDistance = 18.0;
 constexpr double mostLegendWidth = 260.0;
 constexpr double mostLegendShare = 0.25; // Of the picture's height.
 constexpr double smallestPlot = 10.0;
-constexpr double cursorDistance = 5.0;   // From the plot.
-constexpr double mostCursorShare = 0.25; // Of the picture's height.
+constexpr double colorBarDistance = 14.0; // From the plot.
+constexpr double colorBarWidth = 14.0;
+constexpr double colorLabelDistance = 6.0; // From the bar.
+constexpr double mostColorShare = 0.3;     // Of the picture's width.
+constexpr double cursorDistance = 5.0;     // From the plot.
+constexpr double mostCursorShare = 0.25;   // Of the picture's height.
 
 // Whether they tell how values are spread: two at different places do.
 bool haveMajorsAScale(const QVector<TickMark>& marks)
@@ -48,6 +52,7 @@ public:
     {
         placePlot(texts);
         placeHeadings(texts);
+        placeColorBar(texts.colorBar);
         placeTickLabels(texts);
         return m_layout;
     }
@@ -69,6 +74,8 @@ private:
     QSizeF labelSize(const QStringList& lines) const;
     double leftMargin(const ChartTexts& texts) const;
     double rightMargin(const ChartTexts& texts, double left) const;
+    double colorBarMargin(const ColorBar& bar) const;
+    void placeColorBar(const ColorBar& bar);
     double overhang(const QVector<TickMark>& marks, double room,
                     const std::function<double(double)>& distance) const;
     double bottomMargin(const ChartTexts& texts) const;
@@ -103,7 +110,38 @@ double LayoutWork::leftMargin(const ChartTexts& texts) const
 double LayoutWork::rightMargin(const ChartTexts& texts, double left) const
 {
     const double room = m_layout.size.width() - left;
-    return std::max(edge, overhang(texts.xMarks, room, [](double place) { return 1.0 - place; }));
+    return std::max({edge, overhang(texts.xMarks, room, [](double place) { return 1.0 - place; }),
+                     colorBarMargin(texts.colorBar)});
+}
+
+double LayoutWork::colorBarMargin(const ColorBar& bar) const
+{
+    if (bar.isEmpty())
+        return 0.0;
+    double widest = 0.0;
+    for (const TickMark& mark : bar.marks)
+        widest = std::max(widest, labelSize(mark.label).width());
+    const double caption = bar.caption.isEmpty() ? 0.0 : m_measure.height(Style::Text) + spacing;
+    const double full =
+        colorBarDistance + colorBarWidth + colorLabelDistance + widest + caption + edge;
+    return std::min(full, mostColorShare * m_layout.size.width());
+}
+
+// The caption is at the edge of the picture, as that of y is.
+void LayoutWork::placeColorBar(const ColorBar& bar)
+{
+    if (bar.isEmpty())
+        return;
+    const QRectF& plot = m_layout.plot;
+    m_layout.colorBar =
+        QRectF(plot.right() + colorBarDistance, plot.top(), colorBarWidth, plot.height());
+    const double height = m_measure.height(Style::Text);
+    const double left = m_layout.size.width() - edge - height;
+    if (left < m_layout.colorBar.right() + colorLabelDistance)
+        return;
+    m_layout.colorCaption.text = m_measure.elided(bar.caption, Style::Text, plot.height());
+    const double width = m_measure.width(m_layout.colorCaption.text, Style::Text);
+    m_layout.colorCaption.place = QRectF(left, plot.center().y() - width / 2.0, height, width);
 }
 
 // The margin that labels centred on their places need at one end of the x axis. One in the distance
@@ -256,6 +294,7 @@ void LayoutWork::placeTickLabels(const ChartTexts& texts)
     placer.take(m_layout.title.place);
     placer.take(m_layout.xCaption.place);
     placer.take(m_layout.yCaption.place);
+    placer.take(m_layout.colorCaption.place);
     for (const LegendEntry& entry : std::as_const(m_layout.legend))
         placer.take(entry.name.place);
     for (const PlacedText& cursor : std::as_const(m_layout.cursors))
@@ -268,6 +307,11 @@ void LayoutWork::placeTickLabels(const ChartTexts& texts)
         return QPointF(m_layout.plot.left() - tickLabelDistance - size.width(),
                        m_layout.yAt(place) - size.height() / 2.0);
     });
+    placeLabelsOf(texts.colorBar.marks, Qt::AlignLeft, placer,
+                  [&](double place, const QSizeF& size) {
+                      return QPointF(m_layout.colorBar.right() + colorLabelDistance,
+                                     m_layout.yAt(place) - size.height() / 2.0);
+                  });
 }
 
 // From all other texts a label keeps apart just so; from those of its axis further if it is that of
@@ -296,7 +340,9 @@ void LayoutWork::appendLines(const QStringList& lines, const QRectF& place, Qt::
     double y = place.top();
     for (const QString& line : lines) {
         const double free = place.width() - m_measure.width(line, Style::Text);
-        const double shift = alignment == Qt::AlignRight ? free : free / 2.0;
+        const double shift = alignment == Qt::AlignLeft    ? 0.0
+                             : alignment == Qt::AlignRight ? free
+                                                           : free / 2.0;
         m_layout.tickLabels.append(
             {line, QRectF(place.left() + shift, y, place.width() - free, height)});
         y += height;
@@ -315,6 +361,15 @@ QRectF LayoutWork::picture() const
 ChartLayout ChartLayout::of(const QSizeF& size, const ChartTexts& texts, const TextMeasure& measure)
 {
     return LayoutWork(size, measure).work(texts);
+}
+
+QRect ChartLayout::plotPixels(double deviceScale) const
+{
+    const auto pixel = [deviceScale](double length) {
+        return int(std::lround(length * deviceScale));
+    };
+    const QPoint corner(pixel(plot.left()), pixel(plot.top()));
+    return {corner, QSize(pixel(plot.right()) - corner.x(), pixel(plot.bottom()) - corner.y())};
 }
 
 } // namespace hosts::charting

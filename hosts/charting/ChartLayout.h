@@ -4,6 +4,7 @@
 #include "hosts/charting/Chart.h"
 #include "hosts/charting/TextMeasure.h"
 
+#include <QRect>
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
@@ -39,6 +40,8 @@ struct LegendEntry
 ///     |              x               |
 ///     +------------------------------+
 ///
+/// A colour bar stands at the right of the plot, with labels and caption at its own right.
+///
 /// Laws:
 ///  1. No text overlaps another or passes the edge of the picture; what has no room is shortened
 ///     or left out.
@@ -56,12 +59,18 @@ struct ChartLayout
 
     QPointF at(const QPointF& place) const { return {xAt(place.x()), yAt(place.y())}; }
 
+    /// The whole device pixels that the plot fills.
+    /// @param deviceScale device pixels in a logical pixel
+    QRect plotPixels(double deviceScale) const;
+
     QSizeF size;
     QRectF plot;
     PlacedText title;
     PlacedText xCaption;
     PlacedText yCaption; ///< Reads upwards: its place is as wide as the text is high.
     QVector<LegendEntry> legend;
+    QRectF colorBar;                ///< Empty for none.
+    PlacedText colorCaption;        ///< Reads upwards too.
     QVector<PlacedText> cursors;    ///< Those that found room, above the plot.
     QVector<PlacedText> tickLabels; ///< An entry for each line of each label that found room.
     QVector<PlacedText> crossings;  ///< One for each of the chart, an empty one where is no room.

@@ -63,6 +63,8 @@ void ChartPainter::paint(const Chart& chart, const ChartLayout& layout)
     paintGrid(chart, layout, false);
     paintGrid(chart, layout, true);
     paintTicks(chart, layout);
+    paintSurface(chart.surface, layout);
+    paintColorBar(chart.texts.colorBar, layout);
     paintCursors(chart, layout);
     for (int i = 0; i < chart.curves.size(); ++i)
         paintCurve(chart, layout, i);
@@ -148,6 +150,42 @@ void ChartPainter::paintFrame(const QRectF& plot)
     setLinePen(m_look.frame);
     m_painter.drawRect(QRectF(QPointF(onPixel(plot.left()), onPixel(plot.top())),
                               QPointF(onPixel(plot.right()), onPixel(plot.bottom()))));
+}
+
+// Pixel on pixel where there are any: scaled by a fraction they would be drawn beside themselves.
+void ChartPainter::paintSurface(const QImage& surface, const ChartLayout& layout)
+{
+    if (surface.isNull())
+        return;
+    if (m_deviceScale == 0.0) {
+        m_painter.drawImage(layout.plot, surface);
+        return;
+    }
+    m_painter.save();
+    m_painter.resetTransform();
+    m_painter.drawImage(layout.plotPixels(m_deviceScale).topLeft(), surface);
+    m_painter.restore();
+}
+
+// Each field reaches up below the next ones, which leaves no gaps on any device.
+void ChartPainter::paintColorBar(const ColorBar& bar, const ChartLayout& layout)
+{
+    if (bar.isEmpty())
+        return;
+    const QRectF& place = layout.colorBar;
+    const double right = onPixel(place.right());
+    const double left = onPixel(place.left());
+    const double top = onPixel(place.top());
+    for (int i = 0; i < bar.colors.size(); ++i) {
+        const double bottom = onPixel(layout.yAt(i / double(bar.colors.size())));
+        m_painter.fillRect(QRectF(left, top, right - left, bottom - top), bar.colors[i]);
+    }
+    setLinePen(m_look.frame);
+    m_painter.drawRect(QRectF(QPointF(left, top), QPointF(right, onPixel(place.bottom()))));
+    for (const TickMark& mark : bar.marks) {
+        const double y = lineAtY(layout, mark);
+        m_painter.drawLine(QLineF(right, y, right + m_look.minorTickLength, y));
+    }
 }
 
 void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int index)
@@ -243,6 +281,7 @@ void ChartPainter::paintHeadings(const ChartLayout& layout)
     paintText(layout.title, Style::Title, m_look.text);
     paintText(layout.xCaption, Style::Text, m_look.text);
     paintUprightText(layout.yCaption, m_look.text);
+    paintUprightText(layout.colorCaption, m_look.text);
 }
 
 void ChartPainter::paintText(const PlacedText& text, Style style, const QColor& color)

@@ -25,6 +25,8 @@ private:
     void paintGrid(const Chart& chart, const ChartLayout& layout, bool major);
     void paintTicks(const Chart& chart, const ChartLayout& layout);
     void paintFrame(const QRectF& plot);
+    void paintSurface(const QImage& surface, const ChartLayout& layout);
+    void paintColorBar(const ColorBar& bar, const ChartLayout& layout);
     void paintCurve(const Chart& chart, const ChartLayout& layout, int index);
     void paintMark(const QPointF& centre, double radius, const QColor& color, const QColor& fill);
     void paintCursors(const Chart& chart, const ChartLayout& layout);

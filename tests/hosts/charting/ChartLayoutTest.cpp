@@ -30,7 +30,8 @@ TickMark mark(double place, const QString& label, bool major = true)
 void expectApartAndInside(const ChartLayout& layout)
 {
     const QRectF picture(QPointF(0.0, 0.0), layout.size);
-    QVector<QRectF> places = {layout.title.place, layout.xCaption.place, layout.yCaption.place};
+    QVector<QRectF> places = {layout.title.place, layout.xCaption.place, layout.yCaption.place,
+                              layout.colorBar, layout.colorCaption.place};
     for (const LegendEntry& entry : layout.legend)
         places.append(entry.name.place);
     for (const PlacedText& text : layout.tickLabels + layout.cursors)
@@ -65,9 +66,12 @@ TEST(ChartLayoutTest, TextsNeverOverlapNorPassTheEdge)
         for (int n = upTo(20); n >= 0; --n) {
             texts.xMarks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('1'))));
             texts.yMarks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('2'))));
+            texts.colorBar.marks.append(mark(upTo(20) / 20.0, QString(upTo(12), QLatin1Char('3'))));
         }
         for (int n = upTo(9); n > 0; --n)
             texts.cursors.append(mark(upTo(20) / 20.0, QString(1 + upTo(12), QLatin1Char('c'))));
+        texts.colorBar.colors.resize(upTo(1));
+        texts.colorBar.caption = QString(upTo(120), QLatin1Char('c'));
         expectApartAndInside(
             ChartLayout::of(QSizeF(300 + upTo(900), 220 + upTo(600)), texts, typewriter));
     }
