@@ -30,6 +30,9 @@ public:
     /// @throws UsageError if @p axis asks for what this kind cannot give, whatever the data
     virtual void check(const AxisOptions& axis) const = 0;
 
+    /// Whether its ticks look well whatever the range, so that it can fit data closely.
+    virtual bool suitsAnyRange() const { return false; }
+
     /// Which values tell the range.
     virtual Extent::Measure measure() const = 0;
 

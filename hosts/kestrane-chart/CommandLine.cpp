@@ -14,6 +14,7 @@
 
 #include <cmath>
 #include <iostream>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -128,7 +129,33 @@ Show showOf(const RawOptions& raw)
 
 Draw drawOf(const RawOptions& raw)
 {
-    return raw.plot == "xy" ? Draw::XY : raw.plot == "needles" ? Draw::Needles : Draw::Lines;
+    static const std::map<std::string, Draw> kinds = {{"line", Draw::Lines},
+                                                      {"xy", Draw::XY},
+                                                      {"needles", Draw::Needles},
+                                                      {"histogram", Draw::Histogram},
+                                                      {"spectrogram", Draw::Spectrogram},
+                                                      {"columns", Draw::Columns}};
+    return kinds.at(raw.plot);
+}
+
+bool isSurface(Draw draw)
+{
+    return draw == Draw::Histogram || draw == Draw::Spectrogram || draw == Draw::Columns;
+}
+
+// What some plot is without, and would pass over.
+void checkPlot(const RawOptions& raw)
+{
+    const Draw draw = drawOf(raw);
+    const QString given = raw.surface.firstGiven();
+    if (!isSurface(draw) && !given.isEmpty())
+        throw UsageError(given +
+                         QStringLiteral(": only for --plot histogram, spectrogram, columns"));
+    if (draw == Draw::Columns && raw.surface.hasClasses())
+        throw UsageError(QStringLiteral("--plot columns: has one even scale of colours, without "
+                                        "--color-scale, --thresholds and --classes"));
+    if (draw == Draw::Spectrogram && raw.show == "spectrum")
+        throw UsageError(QStringLiteral("--show spectrum: a spectrogram shows spectra already"));
 }
 
 AxisOptions xOptionsOf(const RawOptions& raw)
@@ -158,6 +185,8 @@ AxisOptions yOptionsOf(const RawOptions& raw)
     y.toName = QStringLiteral("--top");
     y.caption = text(raw.yCaption);
     y.quantity = text(raw.yQuantity);
+    if (drawOf(raw) == Draw::Spectrogram && y.quantity.isEmpty() && raw.xQuantity == "time")
+        y.quantity = QStringLiteral("frequency");
     y.unit = text(raw.yUnit);
     y.kind = &AxisKind::named(text(raw.yKind));
     y.from = raw.bottom;
@@ -172,13 +201,17 @@ Options optionsOf(const RawOptions& raw)
     checkNumbers(raw);
     checkQuantity(raw.xQuantity);
     checkQuantity(raw.yQuantity);
+    checkPlot(raw);
     Options options;
     options.inputs = texts(raw.inputs);
     options.output = text(raw.output);
     options.read = readOptionsOf(raw);
     options.show = showOf(raw);
     options.draw = drawOf(raw);
-    if (options.draw == Draw::XY && raw.timeColumn.empty())
+    options.surface = raw.surface.checked();
+    const bool areValuesAlone = options.draw == Draw::XY || options.draw == Draw::Histogram ||
+                                options.draw == Draw::Columns;
+    if (areValuesAlone && raw.timeColumn.empty())
         options.read.timeColumn = QStringLiteral("none");
     options.x = xOptionsOf(raw);
     options.y = yOptionsOf(raw);

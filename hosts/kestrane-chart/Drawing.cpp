@@ -2,6 +2,7 @@
 
 #include "hosts/charting/CrossingLabels.h"
 #include "hosts/charting/FontMeasure.h"
+#include "hosts/kestrane-chart/PictureFile.h"
 #include "hosts/kestrane-chart/Plot.h"
 #include "hosts/kestrane-chart/UsageError.h"
 #include "hosts/kestrane-chart/WorkError.h"
@@ -87,14 +88,25 @@ ChartTexts textsOf(const AxisView& x, const AxisView& y, const Plot& plot, const
     texts.xMarks = x.marks();
     texts.yMarks = y.marks();
     texts.cursors = cursorMarks(x, options.cursors);
+    texts.colorBar = plot.colorBar();
+    if (!options.surface.caption.isEmpty())
+        texts.colorBar.caption = options.surface.caption;
+    texts.colorBar.caption = printable(texts.colorBar.caption);
     return texts;
+}
+
+// Vector formats have no pixels, but a surface has; they should not show.
+double surfaceScale(const Options& options)
+{
+    const bool isPng = PictureFile::formatOf(options.output) == PictureFile::Format::Png;
+    return isPng ? options.deviceScale() : std::max(options.deviceScale(), 2.0);
 }
 
 } // namespace
 
-Drawing Drawing::of(const std::vector<data::Series>& series, const Options& options)
+Drawing Drawing::of(const Recordings& recordings, const Options& options)
 {
-    const std::unique_ptr<Plot> plot = Plot::of(series, options);
+    const std::unique_ptr<Plot> plot = Plot::of(recordings, options);
     const AxisView x(plot->xAxis(), quantityOf(options.x), options.x.reference);
     const AxisView y(plot->yAxis(x), quantityOf(options.y), options.y.reference);
     Chart chart = {textsOf(x, y, *plot, options), x, y, {}, {}};
@@ -102,6 +114,7 @@ Drawing Drawing::of(const std::vector<data::Series>& series, const Options& opti
     const charting::FontMeasure measure(look);
     ChartLayout layout = ChartLayout::of(options.size, chart.texts, measure);
     chart.curves = plot->curves(x, y, layout.plot.width());
+    chart.surface = plot->surface(x, y, layout.plotPixels(surfaceScale(options)).size());
     chart.crossings = plot->crossings(x, y);
     layout.crossings = charting::placeCrossings(chart, layout, measure);
     return {look, chart, layout};

@@ -4,19 +4,16 @@
 #include "hosts/charting/Chart.h"
 #include "hosts/charting/ChartLayout.h"
 #include "hosts/charting/Look.h"
-#include "hosts/data/Series.h"
-#include "hosts/kestrane-chart/Options.h"
-
-#include <vector>
+#include "hosts/kestrane-chart/Recordings.h"
 
 namespace hosts::chart {
 
-/// A chart of some series, with its look and its layout: all that painting needs.
+/// A chart of some recordings, with its look and its layout: all that painting needs.
 struct Drawing
 {
     /// @throws UsageError if there are more names than curves
     /// @throws WorkError if there is nothing to draw in the range that @p options ask for
-    static Drawing of(const std::vector<data::Series>& series, const Options& options);
+    static Drawing of(const Recordings& recordings, const Options& options);
 
     charting::Look look;
     charting::Chart chart;

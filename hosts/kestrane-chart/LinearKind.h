@@ -15,6 +15,7 @@ public:
     {}
 
     void check(const AxisOptions& axis) const override;
+    bool suitsAnyRange() const override { return m_places == charting::TickPlaces::Moving; }
     Extent::Measure measure() const override;
     charting::ShownAxis forAbscissas(const AxisOptions& axis, const std::optional<Extent>& data,
                                      int wanted) const override;

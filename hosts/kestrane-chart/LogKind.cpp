@@ -59,7 +59,9 @@ ShownAxis LogKind::forAbscissas(const AxisOptions& axis, const std::optional<Ext
                                 int) const
 {
     if (!data)
-        throw WorkError(QStringLiteral("no sample has an x above 0, so there can be no log axis"));
+        throw WorkError(QStringLiteral("no sample has %1 above 0, so there can be no log axis")
+                            .arg(axis.name == QLatin1String("x") ? QStringLiteral("an x")
+                                                                 : QStringLiteral("a y")));
     if (axis.from.value_or(data->low) > data->high || axis.to.value_or(data->high) < data->low)
         throw WorkError(axis.outsideText(*data));
     return axisFor(axis, LogRange::around(data->low, data->high), *data);

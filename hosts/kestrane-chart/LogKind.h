@@ -10,6 +10,7 @@ class LogKind : public AxisKind
 {
 public:
     void check(const AxisOptions& axis) const override;
+    bool suitsAnyRange() const override { return true; }
     Extent::Measure measure() const override;
     charting::ShownAxis forAbscissas(const AxisOptions& axis, const std::optional<Extent>& data,
                                      int wanted) const override;

@@ -3,6 +3,7 @@
 
 #include "hosts/data/ReadOptions.h"
 #include "hosts/kestrane-chart/AxisOptions.h"
+#include "hosts/kestrane-chart/SurfaceOptions.h"
 
 #include <QSize>
 #include <QString>
@@ -15,7 +16,7 @@ namespace hosts::chart {
 enum class Show { Values, Slope, Spectrum };
 
 /// As what it is to be drawn.
-enum class Draw { Lines, XY, Needles };
+enum class Draw { Lines, XY, Needles, Histogram, Spectrogram, Columns };
 
 /// The whole command line, checked as far as that can be done without the data.
 struct Options
@@ -28,6 +29,7 @@ struct Options
     data::ReadOptions read;
     Show show = Show::Values;
     Draw draw = Draw::Lines;
+    SurfaceOptions surface;
     AxisOptions x;
     AxisOptions y;
     QString title;

@@ -1,5 +1,7 @@
 #include "hosts/kestrane-chart/Plot.h"
 
+#include "hosts/kestrane-chart/ColumnPlot.h"
+#include "hosts/kestrane-chart/HistogramPlot.h"
 #include "hosts/kestrane-chart/LinePlot.h"
 #include "hosts/kestrane-chart/NeedlePlot.h"
 #include "hosts/kestrane-chart/XYPlot.h"
@@ -23,13 +25,19 @@ int divisionsIn(int length, int pixelsPerDivision)
 
 } // namespace
 
-std::unique_ptr<Plot> Plot::of(const std::vector<Series>& series, const Options& options)
+std::unique_ptr<Plot> Plot::of(const Recordings& recordings, const Options& options)
 {
+    const std::vector<Series>& series = recordings.series;
     switch (options.draw) {
     case Draw::Needles:
         return std::make_unique<NeedlePlot>(series, options);
     case Draw::XY:
         return std::make_unique<XYPlot>(series, options);
+    case Draw::Histogram:
+    case Draw::Spectrogram:
+        return std::make_unique<HistogramPlot>(recordings, options);
+    case Draw::Columns:
+        return std::make_unique<ColumnPlot>(recordings, options);
     case Draw::Lines:
         break;
     }

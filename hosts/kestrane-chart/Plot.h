@@ -4,7 +4,9 @@
 #include "hosts/charting/Chart.h"
 #include "hosts/data/Series.h"
 #include "hosts/kestrane-chart/Options.h"
+#include "hosts/kestrane-chart/Recordings.h"
 
+#include <QImage>
 #include <QStringList>
 #include <QVector>
 
@@ -13,14 +15,13 @@
 
 namespace hosts::chart {
 
-/// What becomes of series of data in a chart: axes that suit them, and curves.
+/// What becomes of data in a chart: axes that suit them, and curves or a surface.
 class Plot
 {
 public:
     /// The plot that @p options ask for; they have to outlive it.
     /// @throws WorkError if there is nothing to draw, or not what that plot needs
-    static std::unique_ptr<Plot> of(const std::vector<data::Series>& series,
-                                    const Options& options);
+    static std::unique_ptr<Plot> of(const Recordings& recordings, const Options& options);
 
     virtual ~Plot() = default;
 
@@ -38,6 +39,16 @@ public:
     /// Where the cursors that the options ask for cross the curves; none in a plot without them.
     virtual QVector<charting::Crossing> crossings(const charting::AxisView& x,
                                                   const charting::AxisView& y) const;
+
+    /// What the colours of a surface mean; empty in a plot without one.
+    virtual charting::ColorBar colorBar() const { return {}; }
+
+    /// What fills the plot, of that size; null in a plot of curves.
+    virtual QImage surface(const charting::AxisView&, const charting::AxisView&,
+                           const QSize& /*pixels*/) const
+    {
+        return {};
+    }
 
     /// The name of each curve.
     virtual QStringList names() const;

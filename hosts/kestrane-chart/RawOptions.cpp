@@ -22,6 +22,11 @@ Kinds of plots
   xy       the second of two columns over the first, in the order of the rows; there is no time
            column then unless --time-column names one
   needles  a stick for each sample, standing on 0; of those in a column of pixels the longest
+  histogram    cells in colours: a table of numbers, its columns over x and its rows over y; or, of
+               two columns, how often which values come together, of one column values and slopes
+  spectrogram  the spectrum of a sound or a column over time, in colours
+  columns      a stick for each column of such cells, in colours that tell how its sum grows from the
+               top cell down
 
 Ranges
   --from, --to, --bottom and --top are kept exactly. What is left open follows from the data: x
@@ -51,6 +56,8 @@ Examples
   kestrane-chart eeg.csv --column Fz --from 2 --to 4 --cursor 2.5 --cursor 3.1 -o alpha.png
   kestrane-chart voice.flac --x-quantity time --title Voice --dpi 192 -o voice.png
   kestrane-chart loop.csv --plot xy --column field --column flux -o loop.png
+  kestrane-chart voice.flac --plot spectrogram --x-quantity time --y-axis log -o voice.png
+  kestrane-chart hits.csv --plot histogram --column x --column y --bins 200x100 -o hits.png
   kestrane-chart voice.flac --show spectrum --x-axis log --y-axis log -o spectrum.png)";
 
 std::vector<std::string> kindNames()
@@ -89,9 +96,10 @@ void addDataOptions(CLI::App& app, RawOptions& raw)
     group(app.add_option("--show", raw.show, "values, the default; slope or spectrum: see below")
               ->check(CLI::IsMember({"values", "slope", "spectrum"}))
               ->type_name("WHAT"));
-    group(app.add_option("--plot", raw.plot, "line, the default; xy or needles: see below")
-              ->check(CLI::IsMember({"line", "xy", "needles"}))
-              ->type_name("KIND"));
+    group(
+        app.add_option("--plot", raw.plot, "Kind of plot, line by default: see below")
+            ->check(CLI::IsMember({"line", "xy", "needles", "histogram", "spectrogram", "columns"}))
+            ->type_name("KIND"));
     group(app.add_option("--start", raw.start, "x of the first sample")->type_name("X"));
     group(app.add_option("--step", raw.step, "Distance of the samples in x")->type_name("X"));
 }
@@ -165,6 +173,7 @@ void RawOptions::addTo(CLI::App& app)
     addDataOptions(app, *this);
     addRangeOptions(app, *this);
     addAxisOptions(app, *this);
+    surface.addTo(app);
     app.footer(footer);
 }
 

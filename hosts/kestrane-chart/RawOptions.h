@@ -1,6 +1,8 @@
 #ifndef HOSTS_KESTRANE_CHART_RAWOPTIONS_H
 #define HOSTS_KESTRANE_CHART_RAWOPTIONS_H
 
+#include "hosts/kestrane-chart/SurfaceOptions.h"
+
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,6 +39,7 @@ struct RawOptions
     double dpi = 96.0;
     double symbols = 8.0;
     bool noLegend = false;
+    RawSurfaceOptions surface;
 };
 
 } // namespace hosts::chart

@@ -1,16 +1,11 @@
 #include "hosts/charting/ChartPainter.h"
-#include "hosts/data/RecordingReader.h"
-#include "hosts/data/Slope.h"
-#include "hosts/data/Spectrum.h"
 #include "hosts/kestrane-chart/CommandLine.h"
 #include "hosts/kestrane-chart/Drawing.h"
 #include "hosts/kestrane-chart/PictureFile.h"
-#include "hosts/kestrane-chart/ProgressBar.h"
 #include "hosts/kestrane-chart/UsageError.h"
 
 #include <kestrane/library/Kestrane.h>
 
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QTextCodec>
 
@@ -18,10 +13,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-#include <iterator>
 #include <new>
 #include <string>
-#include <vector>
 
 namespace {
 
@@ -30,56 +23,11 @@ using namespace hosts;
 constexpr int failed = 1;
 constexpr int wronglyUsed = 2;
 
-std::vector<data::Series> readOne(const QString& path, const data::ReadOptions& options)
-{
-    chart::ProgressBar bar(path);
-    return data::readRecording(path, options, [&](double fraction) { bar.show(fraction); });
-}
-
-std::vector<data::Series> readAll(const chart::Options& options)
-{
-    std::vector<data::Series> all;
-    for (const QString& path : options.inputs) {
-        std::vector<data::Series> some = readOne(path, options.read);
-        // Recordings of one kind name their columns alike.
-        if (options.inputs.size() > 1) {
-            for (data::Series& series : some) {
-                const QString file = QFileInfo(path).completeBaseName();
-                if (!series.name.startsWith(file))
-                    series.name = file + QStringLiteral(": ") + series.name;
-            }
-        }
-        std::move(some.begin(), some.end(), std::back_inserter(all));
-    }
-    return all;
-}
-
-data::Series shown(const data::Series& series, chart::Show show)
-{
-    switch (show) {
-    case chart::Show::Slope:
-        return data::slopeOf(series);
-    case chart::Show::Spectrum:
-        return data::spectrumOf(series);
-    case chart::Show::Values:
-        break;
-    }
-    return series;
-}
-
-std::vector<data::Series> readWhatToShow(const chart::Options& options)
-{
-    std::vector<data::Series> all = readAll(options);
-    for (data::Series& series : all)
-        series = shown(series, options.show);
-    return all;
-}
-
 void draw(const chart::Options& options)
 {
     const chart::PictureFile file(options.output, options.size, options.dpi,
                                   options.title.simplified());
-    const chart::Drawing drawing = chart::Drawing::of(readWhatToShow(options), options);
+    const chart::Drawing drawing = chart::Drawing::of(chart::Recordings::read(options), options);
     file.write([&](QPainter& painter, double deviceScale) {
         charting::ChartPainter(painter, drawing.look, deviceScale)
             .paint(drawing.chart, drawing.layout);

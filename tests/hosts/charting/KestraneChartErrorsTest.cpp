@@ -27,6 +27,9 @@ protected:
         chart.write("rubbish.csv", QByteArray("\x00\x01\xff\xfe", 4).repeated(100));
         chart.write("text.csv", "a,b\nx,y\nz,w\n");
         chart.write("far.csv", "a\n1.7e308\n-1.7e308\n");
+        chart.write("one.csv", "a\n1\n");
+        chart.write("ragged.csv", "1,2,3\n4,5\n");
+        chart.write("words.csv", "1,2,3\n4,5,x\n");
         chart.write("out.png", "before");
         QDir(chart.path(".")).mkdir("folder");
         QDir(chart.path(".")).mkdir("folder.png");
@@ -122,6 +125,31 @@ TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
          "--from 50: the data go from 1 to 5"},
         {"in.csv -o out.png --plot needles --bottom 50", 1, "--bottom 50: the data go from 0 to 7"},
         {"far.csv -o out.png", 1, "too far apart to draw"},
+        {"in.csv -o out.png --colors dusk", 2, "--colors: only for --plot histogram"},
+        {"in.csv -o out.png --plot histogram --colors mud", 2, "--colors: mud not in"},
+        {"in.csv -o out.png --plot histogram --thresholds 1,5,5", 2, "1,5,5: they must ascend"},
+        {"in.csv -o out.png --plot histogram --thresholds 1,,5", 2, "give numbers with commas"},
+        {"in.csv -o out.png --plot histogram --thresholds nan", 2, "give numbers with commas"},
+        {"in.csv -o out.png --plot histogram --thresholds 1 --classes 3", 2, "leave nothing for"},
+        {"in.csv -o out.png --plot histogram --classes 1", 2, "--classes 1: must be from 2"},
+        {"in.csv -o out.png --plot histogram --bins 5x", 2, "--bins 5x: give N or NxM"},
+        {"in.csv -o out.png --plot columns --thresholds 1", 2, "columns: has one even scale"},
+        {"in.csv -o out.png --plot columns --cursor 1", 2, "--cursor: only lines"},
+        {"in.csv -o out.png --plot histogram --legend a", 2, "but only 0 to draw"},
+        {"in.csv -o out.png --plot histogram --row-step 0", 2, "--row-step: must be greater"},
+        {"in.csv -o out.png --plot spectrogram --window 3", 2, "--window 3: must be from 4"},
+        {"in.csv -o out.png --plot spectrogram --overlap 100", 2, "--overlap: must be from 0"},
+        {"in.csv -o out.png --plot spectrogram --show spectrum", 2, "shows spectra already"},
+        {"in.csv -o out.png --plot histogram --to 0", 1, "--to 0: the data go from 0 to 4"},
+        {"far.csv -o out.png --plot histogram", 1, "too far for an axis for x"},
+        {"one.csv -o out.png --plot histogram", 1, "there are no values to draw"},
+        {"ragged.csv -o out.png --plot histogram", 1, "ragged.csv, line 2: the row has 2 cells"},
+        {"words.csv -o out.png --plot columns", 1, "line 2: column 3: \"x\" is not a number"},
+        {"in.csv -o out.png --plot histogram --bins 5", 1, "need one or two columns or a table"},
+        {"in.csv -o out.png --plot histogram --column a --column b --from 9", 1, "the data go"},
+        {"in.csv -o out.png --plot spectrogram", 1, "shows one column or channel, not 3"},
+        {"in.csv -o out.png --plot spectrogram --column b", 1, "b: a spectrogram needs 4 samples"},
+        {"in.csv -o out.png --plot spectrogram --column flat", 1, "nothing changes in the data"},
         {"in.csv -o folder.png", 1, "folder.png: is there and is no file"},
         {"in.csv -o none/out.png", 1, "none: there is no such folder"},
         {"in.csv -o /proc/out.png", 1, "/proc/out.png: cannot be written: "},
