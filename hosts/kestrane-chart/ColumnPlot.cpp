@@ -110,11 +110,12 @@ QImage ColumnPlot::surface(const AxisView& x, const AxisView& y, const QSize& pi
                        [&](double value) { return value / m_largest * largestCount; });
         segments.emplace_back(samples, grid.metaInfo, grid.shape);
     }
-    const auto [start, end] = endsOf(options().surface.colors);
+    const std::pair<QColor, QColor> ends = endsOf(options().surface.colors);
     const auto needlesOf = [&](auto first, auto last) {
         NeedlePlot2DAlgorithm algorithm;
         algorithm.setSnapshot(MultiDimensionalPlotSnapshot<double, 2>({first, last}));
-        return algorithm.makeNeedles(x.axis(), y.axis(), start, end, xPixelSize, yPixelSize);
+        return algorithm.makeNeedles(x.axis(), y.axis(), ends.first, ends.second, xPixelSize,
+                                     yPixelSize);
     };
     const int references = int(needlesOf(segments.begin(), segments.begin() + 1).size());
     charting::SurfaceImage image(pixels, xPixelSize, yPixelSize);

@@ -4,6 +4,8 @@
 
 #include <QMutexLocker>
 
+#include <utility>
+
 namespace pelorin {
 namespace ui {
 namespace chart {

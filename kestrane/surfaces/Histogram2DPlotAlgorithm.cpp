@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
+#include <utility>
 
 namespace pelorin {
 namespace ui {
@@ -229,6 +230,7 @@ Histogram2DPlotAlgorithm::updateCache(int index, const std::array<backend::MetaI
                                       const std::array<long long, 2>& shape, const Request& request,
                                       HistoSegment& out)
 {
+    GeometryCacheEntry replaced; // Goes after the unlock, and the axes with it.
     const QMutexLocker locker(&m_mutex);
     HistoCacheEntry& entry = detail::cacheEntry(m_geometryCache, index);
     GeometryCacheEntry& cached = entry;
@@ -240,7 +242,7 @@ Histogram2DPlotAlgorithm::updateCache(int index, const std::array<backend::MetaI
         backend::SampleVector yEdges = edges(geometry.firstY, geometry.yGeometries);
         entry.xEdges.swap(xEdges);
         entry.yEdges.swap(yEdges);
-        cached = geometry;
+        replaced = std::exchange(cached, geometry);
     }
     out.xEdges = entry.xEdges;
     out.yEdges = entry.yEdges;

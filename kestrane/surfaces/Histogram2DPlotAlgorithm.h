@@ -62,7 +62,7 @@ public:
     ///  1. Edges depend on grid, axes and pixel sizes only, and are reused while these are equal.
     ///  2. Each sample of a cell is read once, and the map asked once for each cell.
     ///
-    /// O(samples) a segment, and O(nx + ny) calls of Axis::transform() when it has no cells yet or
+    /// O(samples) a segment, and O(shape) calls of Axis::transform() when it has no cells yet or
     /// none that fit. An axis changed in place goes unnoticed: see clearGeometryCache().
     ///
     /// @param colorMap asked for the whole part of each value; what is too large for it counts as
