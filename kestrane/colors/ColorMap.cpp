@@ -39,6 +39,8 @@ ColorMap::Builder::~Builder() noexcept(false)
 
 ColorMap::Builder&& ColorMap::Builder::appendEntry(QColor color, std::size_t threshold)
 {
+    if (!m_map)
+        return std::move(*this);
     m_map->m_colors.append(color);
     try {
         m_map->m_thresholds.append(threshold);

@@ -119,7 +119,9 @@ TEST(ColorMapTest, FindsNewClassesOnceTheirBuilderHasEnded)
     {
         // The temporary that is moved from ends here, without a rebuild.
         ColorMap::Builder named = map.appendEntry(Qt::red, 1).appendEntry(Qt::blue, 20);
-        named.appendEntry(Qt::black, 30).appendEntry(Qt::white, 40);
+        ColorMap::Builder last(std::move(named));
+        named.appendEntry(Qt::gray, 7); // To no avail.
+        last.appendEntry(Qt::black, 30).appendEntry(Qt::white, 40);
         EXPECT_EQ(thresholds(map), (Thresholds{10, 1, 20, 30, 40}));
         EXPECT_TRUE(map.isUnmatched(1));
         EXPECT_EQ(map.mapToColor(40), map.colorAtIndex(0));
