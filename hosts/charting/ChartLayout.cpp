@@ -307,6 +307,8 @@ void LayoutWork::placeTickLabels(const ChartTexts& texts)
         return QPointF(m_layout.plot.left() - tickLabelDistance - size.width(),
                        m_layout.yAt(place) - size.height() / 2.0);
     });
+    if (texts.colorBar.isEmpty())
+        return;
     placeLabelsOf(texts.colorBar.marks, Qt::AlignLeft, placer,
                   [&](double place, const QSizeF& size) {
                       return QPointF(m_layout.colorBar.right() + colorLabelDistance,
