@@ -54,9 +54,6 @@ public:
     void visitBeyond(std::size_t begin, std::size_t end, double low, double high,
                      const Visit& visit) const;
 
-    /// Of all.
-    const Extremes& whole() const { return m_whole; }
-
     /// The largest of the absolute values; 0.0 if there are none.
     double magnitude() const;
 
