@@ -43,3 +43,4 @@ check_layer("kestrane/|hosts/charting/" "hosts/charting/*.h" "hosts/charting/*.c
 check_layer("kestrane/backend/|hosts/data/" "hosts/data/*.h" "hosts/data/*.cpp")
 check_layer("kestrane/|hosts/" "hosts/kestrane-chart/*.h" "hosts/kestrane-chart/*.cpp")
 check_layer("kestrane/|benchmarks/" "benchmarks/*.cpp")
+check_layer("benchmarks/peers/" "benchmarks/peers/*.h" "benchmarks/peers/*.cpp")
