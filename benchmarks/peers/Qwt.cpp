@@ -178,8 +178,8 @@ class Spectrogram : public QwtPlotSpectrogram
 {
 public:
     explicit Spectrogram(const ColorGrid& grid)
-        : m_xMap(scaleMap(0.5, grid.side + 0.5, 0.0, canvasWidth))
-        , m_yMap(scaleMap(0.5, grid.side + 0.5, 0.0, canvasWidth))
+        : m_pixels(std::min(grid.side, canvasWidth))
+        , m_map(scaleMap(0.5, grid.side + 0.5, 0.0, m_pixels))
         , m_area(0.0, 0.0, grid.side, grid.side)
     {
         auto values = std::make_unique<QwtMatrixRasterData>();
@@ -192,15 +192,12 @@ public:
         setRenderThreadCount(1);
     }
 
-    QImage image() const
-    {
-        return renderImage(m_xMap, m_yMap, m_area, QSize(canvasWidth, canvasWidth));
-    }
+    QImage image() const { return renderImage(m_map, m_map, m_area, QSize(m_pixels, m_pixels)); }
 
 private:
+    int m_pixels; // Of the image; painting stretches fewer values than there is room for.
     // Pixels ask for values at their left upper corner, which half a value more keeps off borders.
-    QwtScaleMap m_xMap;
-    QwtScaleMap m_yMap;
+    QwtScaleMap m_map;
     QRectF m_area;
 };
 
@@ -234,9 +231,8 @@ public:
                  [spectrogram, grid] {
                      const QImage image = spectrogram->image();
                      const int step = std::max(1, grid.side / canvasWidth);
-                     const auto pixel = [&](int k) { return k * canvasWidth / grid.side; };
                      return faultOfColors(grid, step, [&](int column, int row) {
-                         return image.pixel(pixel(column), pixel(row));
+                         return image.pixel(column / step, row / step);
                      });
                  }}};
     }
