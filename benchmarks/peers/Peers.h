@@ -20,8 +20,8 @@ struct Contestant
     std::string name;
     /// What it does less or more than was asked.
     std::string remark;
-    /// Answers once, and drops the answer. What is needed once for any number of redraws is done
-    /// before; painting is left out.
+    /// Answers once. What is needed once for any number of redraws is done before; painting is
+    /// left out.
     std::function<void()> call;
     /// What is wrong with its answer, beyond the remark; empty if nothing is.
     std::function<std::string()> fault;

@@ -38,7 +38,7 @@ std::shared_ptr<Plottable> onCanvas(const View& view)
     QCPAxisRect* const rect = plot->axisRect();
     rect->setAutoMargins(QCP::msNone);
     rect->setMargins(QMargins());
-    // Heights count from the middle of the last row of pixels, not from below it.
+    // Heights count from the last row of pixels, not from below it.
     rect->setOuterRect(QRect(0, 1, canvasWidth, canvasHeight));
     plot->xAxis->setRange(view.left, view.right);
     plot->yAxis->setRange(view.bottom, view.top);
