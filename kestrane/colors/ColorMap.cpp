@@ -1,6 +1,5 @@
 #include "kestrane/colors/ColorMap.h"
 
-#include "kestrane/colors/detail/ColorLookup.h"
 #include "kestrane/colors/detail/TruncatedToCount.h"
 
 #include <QMap>
@@ -84,12 +83,13 @@ ColorMap::Builder ColorMap::appendEntry(QColor color, std::size_t threshold)
 
 bool ColorMap::isUnmatched(std::size_t value) const
 {
-    return detail::ColorLookup(*this).classOf(value) < 0;
+    return classOf(value) < 0;
 }
 
 QColor ColorMap::mapToColor(std::size_t value) const
 {
-    return detail::ColorLookup(*this).colorOf(value);
+    const int index = classOf(value);
+    return index < 0 ? m_unmatchedColor : m_sortedColors[index];
 }
 
 QColor ColorMap::unmatchedColor() const
@@ -115,6 +115,22 @@ std::size_t ColorMap::thresholdAtIndex(int index) const
 QVector<QColor> ColorMap::colors() const
 {
     return m_colors;
+}
+
+// The last class that begins at or below a count, or -1. Without a branch in the search, since no
+// processor can foresee the ways of counts.
+int ColorMap::classOf(std::size_t value) const
+{
+    if (value == 0 || m_sortedThresholds.isEmpty())
+        return -1;
+    const std::size_t* const begin = m_sortedThresholds.constData();
+    const std::size_t* place = begin;
+    for (int size = m_sortedThresholds.size(); size > 1;) {
+        const int half = size / 2;
+        place = place[half] <= value ? place + half : place;
+        size -= half;
+    }
+    return *place <= value ? static_cast<int>(place - begin) : -1;
 }
 
 void ColorMap::rebuildLookupTable()

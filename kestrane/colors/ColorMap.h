@@ -115,6 +115,8 @@ protected:
 private:
     friend class detail::ColorLookup;
 
+    int classOf(std::size_t value) const;
+
     QColor m_unmatchedColor;
     QVector<QColor> m_colors;
     QVector<std::size_t> m_thresholds;

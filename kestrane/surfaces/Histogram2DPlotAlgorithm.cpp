@@ -1,14 +1,16 @@
 #include "kestrane/surfaces/Histogram2DPlotAlgorithm.h"
 
 #include "kestrane/colors/detail/ColorLookup.h"
-#include "kestrane/colors/detail/TruncatedToCount.h"
 #include "kestrane/surfaces/detail/CellGeometry.h"
-#include "kestrane/surfaces/detail/LargestSample.h"
+#include "kestrane/surfaces/detail/CellStrip.h"
 
 #include <QMutexLocker>
 
+#include <boost/iterator/permutation_iterator.hpp>
+
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -39,25 +41,30 @@ backend::SampleVector edges(const detail::Geometry& first, const QList<detail::G
     return result;
 }
 
-std::size_t toCount(unsigned int value)
+std::vector<long long> indices(const detail::Geometry& first, const QList<detail::Geometry>& others)
 {
-    return value;
+    std::vector<long long> result{first.index};
+    for (const detail::Geometry& geometry : others)
+        result.push_back(geometry.index);
+    return result;
 }
 
-std::size_t toCount(double value)
-{
-    return ui::detail::truncatedToCount(value);
-}
+// Where samples lie nearer to each other along y, so many rows of cells are made at a time: what
+// they have in common of a column fills whole lines of the cache.
+constexpr std::size_t rowsAtATime = 32;
 
-// The cells of one segment, written to a result one by one.
+// The cells of one segment, written to a result row by row.
 class CellWriter
 {
 public:
-    CellWriter(const GeometryCacheEntry& geometry, CountMode mode, const ColorMap& colorMap,
-               HistoSegment& out)
-        : m_geometry(geometry)
+    CellWriter(const GeometryCacheEntry& geometry, CountMode mode,
+               const ui::detail::ColorLookup& lookup, HistoSegment& out)
+        : m_xs(indices(geometry.firstX, geometry.xGeometries))
+        , m_ys(indices(geometry.firstY, geometry.yGeometries))
+        , m_width(m_xs.size() - 1)
+        , m_height(m_ys.size() - 1)
         , m_mode(mode)
-        , m_lookup(colorMap)
+        , m_lookup(lookup)
         , m_out(out)
     {}
 
@@ -65,88 +72,76 @@ public:
     void writeCells(const backend::MultiDimensionalPlotSegment<T, 2>& segment)
     {
         reserveRoom();
-        if (m_geometry.xGeometries.isEmpty())
+        if (m_width == 0 || m_height == 0)
             return;
-        std::vector<T> line;
-        backend::GridPosition<T> row(segment);
-        row.move(0, m_geometry.firstX.index);
-        row.move(1, m_geometry.firstY.index);
-        long long y = m_geometry.firstY.index;
-        for (const detail::Geometry& next : m_geometry.yGeometries) {
-            writeRow(row, next.index - y, line);
-            row.move(1, next.index - y);
-            y = next.index;
-        }
+        const backend::GridPosition<T> origin(segment);
+        if (origin.denserDimension() == 0)
+            writeCellsAlongX(origin);
+        else
+            writeCellsAlongY(origin);
+        m_out.maxCount = *std::max_element(m_largest.begin(), m_largest.end());
     }
 
 private:
     void reserveRoom()
     {
-        const std::size_t cells = static_cast<std::size_t>(m_geometry.xGeometries.size()) *
-                                  static_cast<std::size_t>(m_geometry.yGeometries.size());
-        reserve(m_out.colors, cells);
+        reserve(m_out.colors, m_width * m_height);
         if (m_mode != Histogram2DPlotAlgorithm::NoCounts)
-            reserve(m_out.counts, cells);
+            reserve(m_out.counts, m_width * m_height);
+        m_classes.resize(m_width);
+        m_largest.resize(m_width);
     }
 
     template<typename T>
-    void writeRow(const backend::GridPosition<T>& position, long long height, std::vector<T>& line)
+    void writeCellsAlongX(const backend::GridPosition<T>& origin)
     {
-        if (position.denserDimension() == 0)
-            writeRowByLines(position, height, line);
-        else
-            writeRowByCells(position, height);
-    }
-
-    // The samples of a column of the row are put together first, in the order of the memory.
-    template<typename T>
-    void writeRowByLines(const backend::GridPosition<T>& position, long long height,
-                         std::vector<T>& line)
-    {
-        const long long first = m_geometry.firstX.index;
-        const long long width = m_geometry.xGeometries.last().index - first;
-        line.assign(static_cast<std::size_t>(std::max(width, 0LL)), 0);
-        position.visitRows({width, height}, [&](const T* samples, long long count, long long step) {
-            detail::raise(line.data(), samples, count, step);
-        });
-        const T* const start = line.data() - first;
-        long long x = first;
-        for (const detail::Geometry& next : m_geometry.xGeometries) {
-            T largest = 0;
-            for (; x < next.index; ++x)
-                largest = detail::greater(start[x], largest);
-            write(largest);
+        detail::CellStrip<T> strip(m_xs);
+        std::vector<double> values(m_width);
+        for (std::size_t y = 0; y < m_height; ++y) {
+            backend::GridPosition<T> row = origin;
+            row.move(1, m_ys[y]);
+            strip.writeCells(row, m_ys[y + 1] - m_ys[y], 0, m_width, values.data(), 1);
+            writeRow(values.data());
         }
     }
 
     template<typename T>
-    void writeRowByCells(backend::GridPosition<T> position, long long height)
+    void writeCellsAlongY(const backend::GridPosition<T>& origin)
     {
-        long long x = m_geometry.firstX.index;
-        for (const detail::Geometry& next : m_geometry.xGeometries) {
-            write(detail::largestSample(position, {next.index - x, height}));
-            position.move(0, next.index - x);
-            x = next.index;
+        detail::CellStrip<T> strip(m_ys);
+        std::vector<double> values(m_width * rowsAtATime);
+        for (std::size_t y = 0; y < m_height; y += rowsAtATime) {
+            const std::size_t rows = std::min(rowsAtATime, m_height - y);
+            for (std::size_t x = 0; x < m_width; ++x) {
+                backend::GridPosition<T> column = origin;
+                column.move(0, m_xs[x]);
+                strip.writeCells(column, m_xs[x + 1] - m_xs[x], y, rows, &values[x], m_width);
+            }
+            for (std::size_t row = 0; row < rows; ++row)
+                writeRow(&values[row * m_width]);
         }
     }
 
-    template<typename T>
-    void write(T value)
+    void writeRow(const double* values)
     {
-        const double count = static_cast<double>(value);
+        m_lookup.classesOf(values, m_width, m_classes.data());
+        const auto colors = boost::make_permutation_iterator(m_lookup.colors(), m_classes.cbegin());
+        m_out.colors.insert(m_out.colors.end(), colors, colors + static_cast<long>(m_width));
+        detail::raise(m_largest.data(), values, static_cast<long long>(m_width), 1);
         if (m_mode == Histogram2DPlotAlgorithm::LinearCounts)
-            m_out.counts.push_back(count);
+            m_out.counts.insert(m_out.counts.end(), values, values + m_width);
         else if (m_mode == Histogram2DPlotAlgorithm::LogarithmicCounts)
-            m_out.counts.push_back(std::log10(count));
-        m_out.colors.push_back(m_lookup.colorOf(toCount(value)));
-        if (count > m_out.maxCount)
-            m_out.maxCount = count;
+            std::transform(values, values + m_width, std::back_inserter(m_out.counts),
+                           [](double value) { return std::log10(value); });
     }
 
-    const GeometryCacheEntry& m_geometry;
+    const std::vector<long long> m_xs, m_ys; // Indices of samples where cells begin and end.
+    const std::size_t m_width, m_height;
     const CountMode m_mode;
-    const ui::detail::ColorLookup m_lookup;
+    const ui::detail::ColorLookup& m_lookup;
     HistoSegment& m_out;
+    std::vector<unsigned> m_classes; // Of a row.
+    std::vector<double> m_largest;   // Of each column of cells so far.
 };
 
 } // namespace
@@ -213,13 +208,14 @@ QVector<HistoSegment> Histogram2DPlotAlgorithm::computeColorArrays(
         return result;
 
     const CountMode mode = countMode();
+    const ui::detail::ColorLookup lookup(request.colorMap);
     for (const auto& segment : snapshot) {
         const int index = result.size();
         result.append(HistoSegment());
         HistoSegment& out = result.last();
         const GeometryCacheEntry geometry =
             updateCache(index, segment.metaInfo, segment.shape, request, out);
-        CellWriter(geometry, mode, request.colorMap, out).writeCells(segment);
+        CellWriter(geometry, mode, lookup, out).writeCells(segment);
     }
     return result;
 }

@@ -3,48 +3,43 @@
 
 #include "kestrane/colors/ColorMap.h"
 
+#include <cstddef>
+#include <vector>
+
 namespace pelorin {
 namespace ui {
 namespace detail {
 
-/// What ColorMap::mapToColor() does, for loops over many counts. The map has to outlive it and to
-/// stay as it is.
+/// What ColorMap::mapToColor() does, for many counts: its classes are those of the map when it was
+/// made, numbered from 1 in the order of their thresholds. Class 0 takes what no other one takes.
+///
+/// The thresholds are cut into buckets by the leading bits of a double, so that a bucket is as fine
+/// as its counts are small. A table tells the class that a bucket begins in; what is left is a
+/// search in that bucket, of as many steps for each count: without a branch, since no processor can
+/// foresee the ways of counts.
 class ColorLookup
 {
 public:
-    explicit ColorLookup(const ColorMap& map)
-        : m_thresholds(map.m_sortedThresholds.constData())
-        , m_colors(map.m_sortedColors.constData())
-        , m_size(map.m_sortedThresholds.size())
-        , m_unmatchedColor(map.m_unmatchedColor)
-    {}
+    explicit ColorLookup(const ColorMap& map);
 
-    const QColor& colorOf(std::size_t value) const
-    {
-        const int index = classOf(value);
-        return index < 0 ? m_unmatchedColor : m_colors[index];
-    }
+    /// The classes of the whole parts of some counts, which are neither negative nor NaN.
+    void classesOf(const double* counts, std::size_t size, unsigned* classes) const;
 
-    /// The last class that begins at or below a count, or -1. Without a branch in the search, since
-    /// no processor can foresee the ways of counts.
-    int classOf(std::size_t value) const
-    {
-        if (value == 0 || m_size == 0)
-            return -1;
-        const std::size_t* place = m_thresholds;
-        for (int size = m_size; size > 1;) {
-            const int half = size / 2;
-            place = place[half] <= value ? place + half : place;
-            size -= half;
-        }
-        return *place <= value ? static_cast<int>(place - m_thresholds) : -1;
-    }
+    /// The colour of each class.
+    const QColor* colors() const { return m_colors.data(); }
 
 private:
-    const std::size_t* const m_thresholds; // Ascending, each one once.
-    const QColor* const m_colors;
-    const int m_size;
-    const QColor& m_unmatchedColor;
+    void makeBuckets();
+    std::size_t bucketOf(double count) const;
+    template<typename Steps>
+    void search(Steps steps, const double* counts, std::size_t size, unsigned* classes) const;
+
+    std::vector<QColor> m_colors;
+    std::vector<double> m_thresholds;     // Ascending, behind them some that nothing reaches.
+    std::vector<unsigned> m_firstClasses; // What the thresholds of the buckets before take.
+    int m_shift = 0;
+    long long m_firstKey = 0;
+    int m_steps = 0;
 };
 
 } // namespace detail

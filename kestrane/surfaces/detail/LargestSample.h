@@ -5,10 +5,6 @@
 
 #include <array>
 
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
-
 namespace pelorin {
 namespace ui {
 namespace chart {
@@ -42,9 +38,9 @@ T largestSample(const backend::GridPosition<T>& position, const std::array<long 
 
 /// Raises each of some values to the sample in its place, unless that is less or NaN.
 template<typename T>
-void raise(T* values, const T* samples, long long count, long long stride)
+void raise(T* __restrict values, const T* samples, long long count, long long stride)
 {
-    if (stride == 1) {
+    if (stride == 1) { // A loop of its own: it takes several samples at a step.
         for (long long k = 0; k < count; ++k)
             values[k] = greater(samples[k], values[k]);
     } else {
@@ -52,20 +48,6 @@ void raise(T* values, const T* samples, long long count, long long stride)
             values[k] = greater(samples[k * stride], values[k]);
     }
 }
-
-#ifdef __SSE2__
-
-/// The processor's maximum gives its second operand where one is NaN.
-inline void raise(double* values, const double* samples, long long count, long long stride)
-{
-    long long k = 0;
-    for (; stride == 1 && k + 2 <= count; k += 2)
-        _mm_storeu_pd(values + k, _mm_max_pd(_mm_loadu_pd(samples + k), _mm_loadu_pd(values + k)));
-    for (; k < count; ++k)
-        values[k] = greater(samples[k * stride], values[k]);
-}
-
-#endif
 
 } // namespace detail
 } // namespace chart
