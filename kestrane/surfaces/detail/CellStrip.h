@@ -68,7 +68,8 @@ private:
     {
         const T* const line = m_line.data() - m_edges[first];
         for (std::size_t k = first; k < first + count; ++k, values += stride)
-            *values = static_cast<double>(largestOf(line + m_edges[k], line + m_edges[k + 1], reach));
+            *values =
+                static_cast<double>(largestOf(line + m_edges[k], line + m_edges[k + 1], reach));
     }
 
     // From both ends, so that cells at most twice as wide as the narrowest take as many steps each.
