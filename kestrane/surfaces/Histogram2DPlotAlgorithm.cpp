@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -48,10 +49,6 @@ std::vector<long long> indices(const detail::Geometry& first, const QList<detail
         result.push_back(geometry.index);
     return result;
 }
-
-// Where samples lie nearer to each other along y, so many rows of cells are made at a time: what
-// they have in common of a column fills whole lines of the cache.
-constexpr std::size_t rowsAtATime = 32;
 
 // The cells of one segment, written to a result row by row.
 class CellWriter
@@ -100,26 +97,26 @@ private:
         for (std::size_t y = 0; y < m_height; ++y) {
             backend::GridPosition<T> row = origin;
             row.move(1, m_ys[y]);
-            strip.writeCells(row, m_ys[y + 1] - m_ys[y], 0, m_width, values.data(), 1);
+            strip.writeCells(row, m_ys[y + 1] - m_ys[y], values.data(), 1);
             writeRow(values.data());
         }
     }
 
+    // All values before any colour, so that samples are read in the order of the memory here too.
     template<typename T>
     void writeCellsAlongY(const backend::GridPosition<T>& origin)
     {
         detail::CellStrip<T> strip(m_ys);
-        std::vector<double> values(m_width * rowsAtATime);
-        for (std::size_t y = 0; y < m_height; y += rowsAtATime) {
-            const std::size_t rows = std::min(rowsAtATime, m_height - y);
-            for (std::size_t x = 0; x < m_width; ++x) {
-                backend::GridPosition<T> column = origin;
-                column.move(0, m_xs[x]);
-                strip.writeCells(column, m_xs[x + 1] - m_xs[x], y, rows, &values[x], m_width);
-            }
-            for (std::size_t row = 0; row < rows; ++row)
-                writeRow(&values[row * m_width]);
+        // An odd number of lines of the cache, in which powers of two would share their places.
+        const std::size_t pitch = ((m_width + 7) / 8 | 1) * 8;
+        const std::unique_ptr<double[]> values(new double[pitch * m_height]);
+        for (std::size_t x = 0; x < m_width; ++x) {
+            backend::GridPosition<T> column = origin;
+            column.move(0, m_xs[x]);
+            strip.writeCells(column, m_xs[x + 1] - m_xs[x], &values[x], pitch);
         }
+        for (std::size_t y = 0; y < m_height; ++y)
+            writeRow(&values[y * pitch]);
     }
 
     void writeRow(const double* values)

@@ -42,13 +42,13 @@ ColorLookup::ColorLookup(const ColorMap& map)
     makeBuckets();
 }
 
-// About as many buckets as four times the classes.
+// At most eight buckets for each class, so that even among many of equal width few share one.
 void ColorLookup::makeBuckets()
 {
     const std::size_t classes = m_thresholds.size();
     const long long first = classes > 0 ? bitsOf(m_thresholds.front()) : 0;
     const long long last = classes > 0 ? bitsOf(m_thresholds.back()) : 0;
-    while (static_cast<std::size_t>((last - first) >> m_shift) > 4 * classes)
+    while (static_cast<std::size_t>((last - first) >> m_shift) > 8 * classes)
         ++m_shift;
     m_firstKey = first >> m_shift;
     m_firstClasses.resize(static_cast<std::size_t>((last >> m_shift) - m_firstKey) + 1);

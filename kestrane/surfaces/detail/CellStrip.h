@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -29,63 +28,51 @@ public:
     explicit CellStrip(std::vector<long long> edges)
         : m_edges(std::move(edges))
     {
-        long long narrowest = m_edges.back();
-        long long widest = 0;
+        m_narrowest = m_edges.back();
         for (std::size_t k = 0; k + 1 < m_edges.size(); ++k) {
-            const long long width = m_edges[k + 1] - m_edges[k];
-            narrowest = std::min(narrowest, width);
-            widest = std::max(widest, width);
+            m_narrowest = std::min(m_narrowest, m_edges[k + 1] - m_edges[k]);
+            m_widest = std::max(m_widest, m_edges[k + 1] - m_edges[k]);
         }
-        m_reach = std::min(narrowest, (widest + 1) / 2);
     }
 
-    /// Writes the values of @p count cells from the cell @p first on, @p stride places apart.
+    /// Writes the values of all cells, @p stride places apart.
     /// @param position of a sample at index 0 along the strip
     /// @param height of the strip in samples
-    void writeCells(backend::GridPosition<T> position, long long height, std::size_t first,
-                    std::size_t count, double* values, std::size_t stride)
+    void writeCells(backend::GridPosition<T> position, long long height, double* values,
+                    std::size_t stride)
     {
         const std::size_t along = position.denserDimension();
-        const long long begin = m_edges[first];
-        const long long width = m_edges[first + count] - begin;
+        const long long begin = m_edges.front();
         std::array<long long, 2> size{height, height};
-        size[along] = width;
+        size[along] = m_edges.back() - begin;
         position.move(along, begin);
-        m_line.assign(static_cast<std::size_t>(width), 0);
-        position.visitRows(size, [this](const T* samples, long long length, long long step) {
-            raise(m_line.data(), samples, length, step);
+        m_line.assign(static_cast<std::size_t>(size[along]), 0);
+        position.visitRows(size, [this](const T* samples, long long count, long long step) {
+            raise(m_line.data(), samples, count, step);
         });
-        if (m_reach == 1) // As a constant, since a loop costs more than one step of it.
-            cutLine(std::integral_constant<long long, 1>(), first, count, values, stride);
-        else
-            cutLine(m_reach, first, count, values, stride);
+        const T* const line = m_line.data() - begin;
+        for (std::size_t k = 0; k + 1 < m_edges.size(); ++k, values += stride)
+            *values = static_cast<double>(largestOf(line + m_edges[k], line + m_edges[k + 1]));
     }
 
 private:
-    template<typename Reach>
-    void cutLine(Reach reach, std::size_t first, std::size_t count, double* values,
-                 std::size_t stride) const
+    // From both ends at a time, so that it takes as many steps for most cells.
+    T largestOf(const T* begin, const T* end) const
     {
-        const T* const line = m_line.data() - m_edges[first];
-        for (std::size_t k = first; k < first + count; ++k, values += stride)
-            *values =
-                static_cast<double>(largestOf(line + m_edges[k], line + m_edges[k + 1], reach));
-    }
-
-    // From both ends, so that cells at most twice as wide as the narrowest take as many steps each.
-    template<typename Reach>
-    static T largestOf(const T* begin, const T* end, Reach reach)
-    {
-        T largest = 0;
-        for (long long k = 0; k < reach; ++k)
-            largest = std::max(largest, std::max(*begin++, *--end));
-        while (begin < end)
-            largest = std::max(largest, *begin++);
+        T largest = std::max(*begin, *(end - 1));
+        if (m_widest <= 2)
+            return largest;
+        const long long reach = std::min(m_narrowest, (m_widest + 1) / 2);
+        for (long long k = 1; k < reach; ++k)
+            largest = std::max(largest, std::max(begin[k], end[-1 - k]));
+        for (begin += reach, end -= reach; begin < end; ++begin)
+            largest = std::max(largest, *begin);
         return largest;
     }
 
     std::vector<long long> m_edges;
-    long long m_reach;
+    long long m_narrowest; // Cells, in samples.
+    long long m_widest = 0;
     std::vector<T> m_line;
 };
 
