@@ -26,13 +26,17 @@ class CellStrip
 public:
     /// @param edges ascending indices, where each cell begins and the last one ends
     explicit CellStrip(std::vector<long long> edges)
-        : m_edges(std::move(edges))
+        : m_begin(edges.front())
+        , m_narrowest(edges.back() - m_begin)
     {
-        m_narrowest = m_edges.back();
-        for (std::size_t k = 0; k + 1 < m_edges.size(); ++k) {
-            m_narrowest = std::min(m_narrowest, m_edges[k + 1] - m_edges[k]);
-            m_widest = std::max(m_widest, m_edges[k + 1] - m_edges[k]);
+        for (std::size_t k = 1; k < edges.size(); ++k) {
+            const long long width = edges[k] - edges[k - 1];
+            m_narrowest = std::min(m_narrowest, width);
+            m_widest = std::max(m_widest, width);
         }
+        for (long long& edge : edges)
+            edge -= m_begin;
+        m_edges = std::move(edges);
     }
 
     /// Writes the values of all cells, @p stride places apart.
@@ -42,17 +46,16 @@ public:
                     std::size_t stride)
     {
         const std::size_t along = position.denserDimension();
-        const long long begin = m_edges.front();
         std::array<long long, 2> size{height, height};
-        size[along] = m_edges.back() - begin;
-        position.move(along, begin);
+        size[along] = m_edges.back();
+        position.move(along, m_begin);
         m_line.assign(static_cast<std::size_t>(size[along]), 0);
         position.visitRows(size, [this](const T* samples, long long count, long long step) {
             raise(m_line.data(), samples, count, step);
         });
-        const T* const line = m_line.data() - begin;
-        for (std::size_t k = 0; k + 1 < m_edges.size(); ++k, values += stride)
-            *values = static_cast<double>(largestOf(line + m_edges[k], line + m_edges[k + 1]));
+        for (std::size_t k = 1; k < m_edges.size(); ++k, values += stride)
+            *values = static_cast<double>(
+                largestOf(m_line.data() + m_edges[k - 1], m_line.data() + m_edges[k]));
     }
 
 private:
@@ -70,9 +73,10 @@ private:
         return largest;
     }
 
-    std::vector<long long> m_edges;
-    long long m_narrowest; // Cells, in samples.
+    const long long m_begin;
+    long long m_narrowest; // Cell, in samples.
     long long m_widest = 0;
+    std::vector<long long> m_edges; // Counted from m_begin.
     std::vector<T> m_line;
 };
 
