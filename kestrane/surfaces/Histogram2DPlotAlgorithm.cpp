@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <iterator>
 #include <memory>
 #include <stdexcept>
@@ -123,7 +124,8 @@ private:
     {
         m_lookup.classesOf(values, m_width, m_classes.data());
         const auto colors = boost::make_permutation_iterator(m_lookup.colors(), m_classes.cbegin());
-        m_out.colors.insert(m_out.colors.end(), colors, colors + static_cast<long>(m_width));
+        m_out.colors.insert(m_out.colors.end(), colors,
+                            colors + static_cast<std::ptrdiff_t>(m_width));
         detail::raise(m_largest.data(), values, static_cast<long long>(m_width), 1);
         if (m_mode == Histogram2DPlotAlgorithm::LinearCounts)
             m_out.counts.insert(m_out.counts.end(), values, values + m_width);

@@ -60,7 +60,7 @@ public:
     ///
     /// Laws:
     ///  1. Edges depend on grid, axes and pixel sizes only, and are reused while these are equal.
-    ///  2. Each sample of a cell is read once, and the map asked once for each cell.
+    ///  2. Each sample of a cell is read once, and a class looked up once for each cell.
     ///
     /// O(samples) a segment, and O(shape) calls of Axis::transform() when it has no cells yet or
     /// none that fit. An axis changed in place goes unnoticed: see clearGeometryCache().
