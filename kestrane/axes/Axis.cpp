@@ -7,35 +7,6 @@ namespace pelorin {
 namespace ui {
 namespace chart {
 
-namespace {
-
-void rankIfUnranked(QVector<Axis::Tick>& ticks, int index, double weight)
-{
-    Axis::Tick& tick = ticks[index];
-    if (tick.rank() == 0.0)
-        tick.setRank((static_cast<double>(index) / ticks.size() + 1.0) * weight);
-}
-
-// Ranks the ends of [first, last], then each half with half the weight. A tick that is reached at
-// depth d gets weight / 2^d to just under twice that, so that no deeper tick outranks it.
-void rankByBisection(QVector<Axis::Tick>& ticks, int first, int last, double weight)
-{
-    for (;;) {
-        rankIfUnranked(ticks, first, weight);
-        rankIfUnranked(ticks, last, weight);
-        if (first >= last)
-            return;
-        weight /= 2.0;
-        const int mid = first + (last - first) / 2;
-        rankByBisection(ticks, first, mid, weight);
-        if (mid == first)
-            return;
-        first = mid;
-    }
-}
-
-} // namespace
-
 Axis::Tick::Tick(double logicalPosition, double axisPosition, double rank,
                  const QList<double>& secondaryLogicalPositions, bool invisible)
     : m_valid(true)
@@ -94,14 +65,14 @@ void Axis::emitMaxValChanged(bool withParamChange)
 
 void Axis::updateRanking(QVector<Tick>& ticks, bool isMajor)
 {
-    constexpr double heaviest = 500.0;
-    constexpr double majorBonus = 1500.0;
-
-    if (!ticks.isEmpty())
-        rankByBisection(ticks, 0, ticks.size() - 1, heaviest);
+    detail::visitByRank(ticks.size(), [&](int index, double rank) {
+        Tick& tick = ticks[index];
+        if (tick.rank() == 0.0)
+            tick.setRank(rank);
+    });
     if (isMajor) {
         for (Tick& tick : ticks)
-            tick.setRank(tick.rank() + majorBonus);
+            tick.setRank(tick.rank() + detail::majorBonus);
     }
     detail::sortByRank(ticks);
 }

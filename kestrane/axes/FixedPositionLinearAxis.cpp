@@ -2,6 +2,7 @@
 
 #include "kestrane/axes/detail/AxisMap.h"
 #include "kestrane/axes/detail/InTurn.h"
+#include "kestrane/axes/detail/TickPlaces.h"
 
 #include <boost/make_shared.hpp>
 
@@ -335,28 +336,27 @@ void FixedPositionLinearAxis::updateTicks()
     const double minorStep = majorStep / m;
     const double minorValueStep = m_scale / m;
 
-    QVector<Tick> major;
-    QVector<Tick> minor;
+    detail::TickPlaces major;
+    detail::TickPlaces minor;
     for (int i = 0; i < n; ++i) {
         const double value = minValue() + m_scale * i;
         const double position = i * majorStep;
-        major.append(Tick(value, position, 0.0, {}, false));
+        major.append(value, position);
         for (int j = 0; j < m; ++j) {
             const double minorPosition = j * minorStep + position;
             const double minorValue = j * minorValueStep + value;
             if (!qFuzzyCompare(position, minorPosition))
-                minor.append(Tick(minorValue, minorPosition, 0.0, {}, false));
+                minor.append(minorValue, minorPosition);
         }
     }
     storeTicks(major, minor);
 }
 
-void FixedPositionLinearAxis::storeTicks(QVector<Tick>& major, QVector<Tick>& minor)
+void FixedPositionLinearAxis::storeTicks(const detail::TickPlaces& major,
+                                         const detail::TickPlaces& minor)
 {
-    updateRanking(major, true);
-    updateRanking(minor, false);
-    m_majorTicks.swap(major);
-    m_minorTicks.swap(minor);
+    m_majorTicks = major.ranked(true);
+    m_minorTicks = minor.ranked(false);
     m_ticksDirty = false;
 }
 

@@ -10,6 +10,7 @@ namespace chart {
 
 namespace detail {
 struct AxisMap;
+class TickPlaces;
 }
 
 /// A linear axis of numMajorDivisions() equal divisions, each worth scale() logical units. The
@@ -21,7 +22,7 @@ struct AxisMap;
 ///     maxValue = minValue + full             value(p)    = (p - anchor) * full - shift
 ///
 /// so that the logical value -shift (offset itself, unless it is added) stands at axis position
-/// anchor. Transforms are O(1); ticks are built on demand, once per change, in O(n log n).
+/// anchor. Transforms are O(1); ticks are built on demand, once per change, in O(n).
 ///
 /// Every change emits, in this order: the signal of the parameter, minValueChanged() and
 /// maxValueChanged() if they moved, ticksUpdated(), parametersChanged(), and after a gesture
@@ -143,9 +144,8 @@ private:
     void updateMinimum();
     void updateMaximum();
 
-    // Ranks the two lists, which stand in ascending order of position, and makes them the present
-    // ticks.
-    void storeTicks(QVector<Tick>& major, QVector<Tick>& minor);
+    // Makes them the present ticks.
+    void storeTicks(const detail::TickPlaces& major, const detail::TickPlaces& minor);
 
     int m_numMajorDivisions;
     int m_numMinorDivisions;

@@ -1,5 +1,7 @@
 #include "kestrane/axes/LinearAxis.h"
 
+#include "kestrane/axes/detail/TickPlaces.h"
+
 #include <cmath>
 
 namespace pelorin {
@@ -35,20 +37,20 @@ void LinearAxis::updateTicks()
     const double startValue = scale() * std::floor(minValue() / scale());
     const double startPosition = transform(Linear, startValue);
 
-    QVector<Tick> major;
-    QVector<Tick> minor;
+    detail::TickPlaces major;
+    detail::TickPlaces minor;
     for (int i = 0; i <= n; ++i) {
         const double value = scale() * i + startValue;
         const double position = i * majorStep + startPosition;
         if (position >= 0.0 && position <= 1.0)
-            major.append(Tick(value, position, 0.0, {}, false));
+            major.append(value, position);
         for (int j = 0; j < m; ++j) {
             const double minorValue = j * minorValueStep + value;
             const double minorPosition = j * minorStep + position;
             // Leaves out j = 0, which is a major place even where that lies outside the axis.
             const bool isMajorPlace = qFuzzyCompare(position, minorPosition);
             if (minorPosition >= 0.0 && minorPosition < 1.0 && !isMajorPlace)
-                minor.append(Tick(minorValue, minorPosition, 0.0, {}, false));
+                minor.append(minorValue, minorPosition);
         }
     }
     storeTicks(major, minor);

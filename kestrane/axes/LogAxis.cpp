@@ -2,6 +2,7 @@
 
 #include "kestrane/axes/detail/AxisMap.h"
 #include "kestrane/axes/detail/InTurn.h"
+#include "kestrane/axes/detail/TickPlaces.h"
 
 #include <boost/make_shared.hpp>
 
@@ -232,11 +233,6 @@ detail::AxisMap LogAxis::mapOf(ScaleMode mode) const
     return {-0.0, m_positionScale, m_positionOffset, m_decades, 0.0, mode != Logarithmic};
 }
 
-Axis::Tick LogAxis::tickAt(double exponent) const
-{
-    return Tick(powerOfTen(exponent), LogAxis::transform(Logarithmic, exponent), 0.0, {}, false);
-}
-
 void LogAxis::updateTicks()
 {
     if (!m_ticksInvalid)
@@ -250,22 +246,23 @@ void LogAxis::updateTicks()
     double exponent = std::log10(2.0) + decade;
     int mantissa = 2;
 
-    QVector<Tick> major = {tickAt(decade)};
-    QVector<Tick> minor;
+    const detail::AxisMap map = mapOf(Logarithmic);
+    detail::TickPlaces major;
+    detail::TickPlaces minor;
+    major.append(powerOfTen(decade), map.positionOf(decade));
     for (int pass = 0; pass < mostPasses && end >= exponent; ++pass) {
-        if (LogAxis::transform(Logarithmic, exponent) >= 0.0)
-            minor.append(tickAt(exponent));
+        const double position = map.positionOf(exponent);
+        if (position >= 0.0)
+            minor.append(powerOfTen(exponent), position);
         if (++mantissa == 10) {
             mantissa = 2;
             decade += 1.0;
-            major.append(tickAt(decade));
+            major.append(powerOfTen(decade), map.positionOf(decade));
         }
         exponent = std::log10(double(mantissa)) + decade;
     }
-    updateRanking(major, true);
-    updateRanking(minor, false);
-    m_majorTicks.swap(major);
-    m_minorTicks.swap(minor);
+    m_majorTicks = major.ranked(true);
+    m_minorTicks = minor.ranked(false);
     m_ticksInvalid = false;
 }
 

@@ -122,7 +122,6 @@ private:
     void invalidateTicks();
 
     detail::AxisMap mapOf(ScaleMode mode) const;
-    Tick tickAt(double exponent) const;
 
     double m_smallest = 1.0;
     double m_largest = 1.0;

@@ -14,6 +14,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace pelorin::ui::chart;
@@ -37,6 +38,24 @@ Ticks unrankedTicks(int count)
     for (int i = 0; i < count; ++i)
         ticks.append(Axis::Tick(i, i, 0.0, {}, false));
     return ticks;
+}
+
+// The rule as it is told: a tick is ranked where the bisection first meets it.
+void bisect(std::vector<double>& ranks, int first, int last, double weight)
+{
+    for (;;) {
+        for (const int i : {first, last}) {
+            if (ranks[std::size_t(i)] == 0.0)
+                ranks[std::size_t(i)] = (double(i) / double(ranks.size()) + 1.0) * weight;
+        }
+        const int mid = (first + last) / 2;
+        weight /= 2.0;
+        if (first < last)
+            bisect(ranks, first, mid, weight);
+        if (mid == first)
+            return;
+        first = mid;
+    }
 }
 
 } // namespace
@@ -97,12 +116,6 @@ TEST(AxisRankingTest, BisectionGivesTheEndsThenTheMiddleThenTheQuarters)
         EXPECT_EQ(values(ticks), row.values);
         EXPECT_EQ(ranks(ticks), row.ranks);
     }
-    Ticks nine = unrankedTicks(9);
-    axis.updateRanking(nine, true);
-    EXPECT_THAT(values(nine), ElementsAre(8, 0, 4, 6, 2, 7, 5, 3, 1));
-    EXPECT_EQ(nine.first().rank(), (8.0 / 9.0 + 1.0) * 500.0 + 1500.0);
-    EXPECT_EQ(nine.at(1).rank(), 2000.0);
-
     Ticks preset = unrankedTicks(3);
     preset[1].setRank(2500.0);
     preset[2].setRank(NaN);
@@ -114,6 +127,28 @@ TEST(AxisRankingTest, BisectionGivesTheEndsThenTheMiddleThenTheQuarters)
     below[0].setRank(-1.0);
     axis.updateRanking(below, false);
     EXPECT_EQ(below.last().rank(), -1.0); // It has a rank already.
+}
+
+TEST(AxisRankingTest, TicksOfAnAxisHaveTheRanksOfTheBisectionInDescendingOrder)
+{
+    for (int count = 1; count < 300; ++count) {
+        std::vector<double> expected(std::size_t(count), 0.0);
+        bisect(expected, 0, count - 1, 500.0);
+
+        FixedPositionLinearAxis axis(1.0, 0.0, 0.0, false, count, 2);
+        for (const auto& [ticks, bonus] :
+             {std::pair(axis.majorTicks(), 1500.0), std::pair(axis.minorTicks(), 0.0)}) {
+            ASSERT_EQ(ticks.size(), count);
+            for (const auto& tick : ticks)
+                ASSERT_EQ(tick.rank(), expected[std::size_t(tick.logicalPosition())] + bonus);
+            const auto inOrder = ranks(ticks);
+            ASSERT_TRUE(std::is_sorted(inOrder.rbegin(), inOrder.rend())) << count;
+        }
+        Ticks ticks = unrankedTicks(count);
+        OpenAxis().updateRanking(ticks, true);
+        ASSERT_EQ(values(ticks), values(axis.majorTicks()));
+        ASSERT_EQ(ranks(ticks), ranks(axis.majorTicks()));
+    }
 }
 
 TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)
