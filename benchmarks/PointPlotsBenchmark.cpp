@@ -8,6 +8,7 @@
 #include <boost/make_shared.hpp>
 
 #include <algorithm>
+#include <limits>
 #include <random>
 
 namespace {
@@ -36,13 +37,28 @@ void report(benchmark::State& state, long long count)
         secondsOfPlainPass(*samples(count)) * 1e9 / static_cast<double>(count);
 }
 
-void xyPlot(benchmark::State& state, bool inOrder)
+// samples(), the given part of them NaN.
+PlotSnapshot holed(long long count, double part)
+{
+    const auto all = boost::make_shared<SampleVector>(*samples(count));
+    std::mt19937_64 random(1);
+    std::bernoulli_distribution isHole(part);
+    for (double& sample : *all) {
+        if (isHole(random))
+            sample = std::numeric_limits<double>::quiet_NaN();
+    }
+    return PlotSnapshot({PlotSegment(all)});
+}
+
+void xyPlot(benchmark::State& state, bool inOrder, double holes = 0.0)
 {
     const long long count = state.range(0);
     const auto xAxis = linearAxis(1.0), yAxis = linearAxis(1.0);
     XYPlotAlgorithm plot;
-    plot.setSnapshot(positions(count, inOrder), snapshot(count));
-    if (plot.createSegments(xAxis, yAxis, columnWidth, symbolSpacing).first.size() != 1)
+    plot.setSnapshot(positions(count, inOrder),
+                     holes > 0.0 ? holed(count, holes) : snapshot(count));
+    const auto lines = plot.createSegments(xAxis, yAxis, columnWidth, symbolSpacing).first.size();
+    if (holes > 0.0 ? lines < 1000 : lines != 1)
         return state.SkipWithError("there is no line");
     for (auto _ : state)
         benchmark::DoNotOptimize(plot.createSegments(xAxis, yAxis, columnWidth, symbolSpacing));
@@ -73,6 +89,16 @@ void xyInOrder(benchmark::State& state)
     xyPlot(state, true);
 }
 
+void xyWithHoles(benchmark::State& state)
+{
+    xyPlot(state, true, 0.01);
+}
+
+void xyHalfHoles(benchmark::State& state)
+{
+    xyPlot(state, true, 0.5);
+}
+
 void xyShuffled(benchmark::State& state)
 {
     xyPlot(state, false);
@@ -92,5 +118,7 @@ void needlesWhole(benchmark::State& state)
 
 BENCHMARK(xyInOrder)->Name("xy/inOrder")->Arg(1000000)->Arg(10000000);
 BENCHMARK(xyShuffled)->Name("xy/shuffled")->Arg(1000000)->Arg(10000000);
+BENCHMARK(xyWithHoles)->Name("xy/inOrder/1percentNaN")->Arg(1000000)->Arg(10000000);
+BENCHMARK(xyHalfHoles)->Name("xy/inOrder/50percentNaN")->Arg(1000000)->Arg(10000000);
 BENCHMARK(needlesThinned)->Name("needles/thinned")->Arg(1000000)->Arg(10000000);
 BENCHMARK(needlesWhole)->Name("needles/whole")->Arg(1000000)->Arg(10000000);

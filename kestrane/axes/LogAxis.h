@@ -22,7 +22,7 @@ struct AxisMap;
 /// Major ticks stand on the powers of ten, minor ticks on 2 to 9 times these. Each decade has them
 /// all, so the first major tick may lie before position 0.0 and the last one beyond 1.0.
 /// Transforms are O(1) and allocate nothing; ticks are built on demand, once per change, in
-/// O(n log n), and there are at most 10000 minor ones.
+/// O(n), and there are at most 10000 minor ones.
 ///
 /// A change emits ticksUpdated() first, then the signal of each limit followed by its counterpart
 /// (smallestChanged(), minValueChanged(), largestChanged(), maxValueChanged()), then

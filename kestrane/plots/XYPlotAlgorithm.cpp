@@ -2,6 +2,7 @@
 
 #include "kestrane/axes/detail/AxisMap.h"
 #include "kestrane/plots/detail/Columns.h"
+#include "kestrane/plots/detail/GrowingList.h"
 
 #include <QMutexLocker>
 
@@ -19,37 +20,71 @@ using Lists = std::pair<QVector<QVector<QPointF>>, QVector<QVector<QPointF>>>;
 
 constexpr double noColumn = -1.0;
 
-// One pass over the points of a pair of segments. The maps are AxisMap or AskedAxis.
-template<typename Map>
+// How many points are looked at at a time.
+constexpr int batch = 256;
+
+void toPositions(const double* samples, int count, const detail::AxisMap& map, double* positions)
+{
+    for (int i = 0; i < count; ++i)
+        positions[i] = map.positionOf(samples[i]);
+}
+
+// One pass over the points of a pair of segments, which come as positions.
 class PairWalk
 {
 public:
-    PairWalk(const Map& xMap, const Map& yMap, const detail::Thinning& thinning, Lists& lists)
-        : m_xMap(xMap)
-        , m_yMap(yMap)
+    PairWalk(std::ptrdiff_t count, const detail::Thinning& thinning, Lists& lists)
+        : m_count(static_cast<double>(count))
         , m_columnWidth(thinning.columnWidth)
         , m_symbolDistance(thinning.columnWidth * thinning.symbolSpacing)
         , m_lists(lists)
     {}
 
-    void run(const double* x, const double* y, std::ptrdiff_t count)
+    // At most a batch. NaN in either position splits the line.
+    void take(const double* x, const double* y, int count)
     {
-        for (std::ptrdiff_t i = 0; i < count; ++i) {
+        // A column has no more than two points for each of its values.
+        detail::makeRoom(m_polyline, 2 * count + 2, m_done, m_count);
+        if (m_collecting)
+            detail::makeRoom(m_symbols, count, m_done, m_count);
+        for (int i = skipColumn(x, y, 0, count); i < count; i = skipColumn(x, y, i + 1, count)) {
             if (!takePoint(x[i], y[i]))
                 closeLine();
         }
-        closeLine();
+        m_done += count;
+    }
+
+    void closeLine()
+    {
+        flush();
+        if (m_polyline.size() == 1) {
+            const QPointF point = m_polyline.first();
+            m_polyline.append(QPointF(point.x() + m_columnWidth, point.y()));
+        }
+        moveToEnd(m_polyline, m_lists.first);
+        moveToEnd(m_symbols, m_lists.second);
     }
 
 private:
-    // False where the line ends.
-    bool takePoint(double xSample, double ySample)
+    // Puts the values of the points from one on that stay in the column and need nothing else, as
+    // takePoint() would, and gives the index of the first that needs more.
+    int skipColumn(const double* x, const double* y, int i, int count)
     {
-        const double x = m_xMap.positionOf(xSample);
+        if (m_values.isEmpty || m_collecting || m_columnX == noColumn)
+            return i;
+        detail::ColumnValues values = m_values;
+        for (; i < count && std::fabs(x[i] - m_columnX) < m_columnWidth && !std::isnan(y[i]); ++i)
+            values.put(y[i]);
+        m_values = values;
+        return i;
+    }
+
+    // False where the line ends.
+    bool takePoint(double x, double y)
+    {
         if (std::isnan(x))
             return false;
         selectColumn(x); // Even if there is no y: the column is there for the points to come.
-        const double y = m_yMap.positionOf(ySample);
         if (std::isnan(y))
             return false;
         if (m_collecting)
@@ -86,28 +121,19 @@ private:
         m_values.isEmpty = true;
     }
 
-    void closeLine()
+    void moveToEnd(QVector<QPointF>& points, QVector<QVector<QPointF>>& lists)
     {
-        flush();
-        if (m_polyline.size() == 1) {
-            const QPointF point = m_polyline.first();
-            m_polyline.append(QPointF(point.x() + m_columnWidth, point.y()));
-        }
-        moveToEnd(m_polyline, m_lists.first);
-        moveToEnd(m_symbols, m_lists.second);
+        if (points.isEmpty())
+            return;
+        detail::makeRoom(lists, 1, m_done, m_count);
+        lists.append(detail::takeAll(points));
     }
 
-    static void moveToEnd(QVector<QPointF>& points, QVector<QVector<QPointF>>& lists)
-    {
-        if (!points.isEmpty())
-            lists.append(std::exchange(points, {}));
-    }
-
-    const Map m_xMap;
-    const Map m_yMap;
+    const double m_count;
     const double m_columnWidth;
     const double m_symbolDistance;
     Lists& m_lists;
+    double m_done = 0.0;
 
     // These two live from one line to the next.
     double m_columnX = noColumn;
@@ -118,20 +144,36 @@ private:
     detail::ColumnValues m_values;
 };
 
-void plot(const backend::PlotSegment& x, const backend::PlotSegment& y, const Axis& xAxis,
-          const Axis& yAxis, const detail::Thinning& thinning, Lists& lists)
+void plot(const backend::PlotSegment& xSegment, const backend::PlotSegment& ySegment,
+          const Axis& xAxis, const Axis& yAxis, const detail::Thinning& thinning, Lists& lists)
 {
-    const std::ptrdiff_t count = std::min(x.end - x.begin, y.end - y.begin);
+    const std::ptrdiff_t count =
+        std::min(xSegment.end - xSegment.begin, ySegment.end - ySegment.begin);
     if (count <= 0)
         return;
-    const auto xMap = detail::AxisMap::of(xAxis, x.yScaleMode);
-    const auto yMap = detail::AxisMap::of(yAxis, y.yScaleMode);
-    if (xMap && yMap)
-        PairWalk(*xMap, *yMap, thinning, lists).run(&*x.begin, &*y.begin, count);
-    else
-        PairWalk(detail::AskedAxis{xAxis, x.yScaleMode}, detail::AskedAxis{yAxis, y.yScaleMode},
-                 thinning, lists)
-            .run(&*x.begin, &*y.begin, count);
+    const double* const xSamples = &*xSegment.begin;
+    const double* const ySamples = &*ySegment.begin;
+    const auto xMap = detail::AxisMap::of(xAxis, xSegment.yScaleMode);
+    const auto yMap = detail::AxisMap::of(yAxis, ySegment.yScaleMode);
+    const detail::AskedAxis askedX{xAxis, xSegment.yScaleMode}, askedY{yAxis, ySegment.yScaleMode};
+
+    PairWalk walk(count, thinning, lists);
+    double x[batch], y[batch];
+    for (std::ptrdiff_t done = 0; done < count; done += batch) {
+        const int size = static_cast<int>(std::min<std::ptrdiff_t>(batch, count - done));
+        if (xMap && yMap) {
+            toPositions(xSamples + done, size, *xMap, x);
+            toPositions(ySamples + done, size, *yMap, y);
+        } else {
+            for (int i = 0; i < size; ++i) {
+                x[i] = askedX.positionOf(xSamples[done + i]);
+                // An axis is not asked for what plays no part.
+                y[i] = std::isnan(x[i]) ? x[i] : askedY.positionOf(ySamples[done + i]);
+            }
+        }
+        walk.take(x, y, size);
+    }
+    walk.closeLine();
 }
 
 } // namespace

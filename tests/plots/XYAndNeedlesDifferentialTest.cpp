@@ -140,7 +140,7 @@ std::vector<double> samples(Dice& dice)
     const int oddOnes = dice.upTo(3) == 0 ? 2 : 0;
     const double back = dice.oneOf({0.0, -0.0625, -0.25});
     double value = dice.oneOf({0.0, -1.0, 1.0, dice.between(-2.0, 2.0)});
-    std::vector<double> result(std::size_t(dice.oneOf({0, 1, 2, 5, 9, 40})));
+    std::vector<double> result(std::size_t(dice.oneOf({0, 1, 2, 5, 9, 40, 700})));
     for (double& sample : result) {
         value += dice.oneOf({0.0, 0.0625, 0.125, 0.25, back, dice.between(back, 0.2)});
         sample = dice.upTo(9) < oddOnes ? dice.oneOf({NaN, NaN, Infinity, -1.0, 0.0}) : value;
