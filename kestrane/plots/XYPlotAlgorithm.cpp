@@ -70,11 +70,15 @@ private:
     // takePoint() would, and gives the index of the first that needs more.
     int skipColumn(const double* x, const double* y, int i, int count)
     {
-        if (m_values.isEmpty || m_collecting || m_columnX == noColumn)
+        const auto stays = [&, from = m_columnX, width = m_columnWidth](int k) {
+            return std::fabs(x[k] - from) < width && !std::isnan(y[k]);
+        };
+        if (m_values.isEmpty || m_collecting || m_columnX == noColumn || i == count || !stays(i))
             return i;
         detail::ColumnValues values = m_values;
-        for (; i < count && std::fabs(x[i] - m_columnX) < m_columnWidth && !std::isnan(y[i]); ++i)
+        do
             values.put(y[i]);
+        while (++i < count && stays(i));
         m_values = values;
         return i;
     }
