@@ -11,7 +11,7 @@ namespace chart {
 namespace detail {
 struct AxisMap;
 class TickPlaces;
-}
+} // namespace detail
 
 /// A linear axis of numMajorDivisions() equal divisions, each worth scale() logical units. The
 /// divisions stand still; scrolling and scaling change the values that they show.

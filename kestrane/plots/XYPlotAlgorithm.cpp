@@ -29,6 +29,24 @@ void toPositions(const double* samples, int count, const detail::AxisMap& map, d
         positions[i] = map.positionOf(samples[i]);
 }
 
+// Puts the values of the points from one on that stay in the column, and gives the index of the
+// first that does not, or has no position.
+int putWithin(double columnX, double columnWidth, const double* x, const double* y, int i,
+              int count, detail::ColumnValues& values)
+{
+    const auto stays = [=](int k) {
+        return std::fabs(x[k] - columnX) < columnWidth && !std::isnan(y[k]);
+    };
+    if (i == count || !stays(i))
+        return i;
+    detail::ColumnValues all = values; // The loop keeps these in registers.
+    do
+        all.put(y[i]);
+    while (++i < count && stays(i));
+    values = all;
+    return i;
+}
+
 // One pass over the points of a pair of segments, which come as positions.
 class PairWalk
 {
@@ -47,8 +65,10 @@ public:
         detail::makeRoom(m_polyline, 2 * count + 2, m_done, m_count);
         if (m_collecting)
             detail::makeRoom(m_symbols, count, m_done, m_count);
-        for (int i = skipColumn(x, y, 0, count); i < count; i = skipColumn(x, y, i + 1, count)) {
-            if (!takePoint(x[i], y[i]))
+        for (int i = 0; i < count; ++i) {
+            if (!m_values.isEmpty && !m_collecting && m_columnX != noColumn)
+                i = putWithin(m_columnX, m_columnWidth, x, y, i, count, m_values);
+            if (i < count && !takePoint(x[i], y[i]))
                 closeLine();
         }
         m_done += count;
@@ -66,23 +86,6 @@ public:
     }
 
 private:
-    // Puts the values of the points from one on that stay in the column and need nothing else, as
-    // takePoint() would, and gives the index of the first that needs more.
-    int skipColumn(const double* x, const double* y, int i, int count)
-    {
-        const auto stays = [&, from = m_columnX, width = m_columnWidth](int k) {
-            return std::fabs(x[k] - from) < width && !std::isnan(y[k]);
-        };
-        if (m_values.isEmpty || m_collecting || m_columnX == noColumn || i == count || !stays(i))
-            return i;
-        detail::ColumnValues values = m_values;
-        do
-            values.put(y[i]);
-        while (++i < count && stays(i));
-        m_values = values;
-        return i;
-    }
-
     // False where the line ends.
     bool takePoint(double x, double y)
     {
@@ -125,12 +128,10 @@ private:
         m_values.isEmpty = true;
     }
 
-    void moveToEnd(QVector<QPointF>& points, QVector<QVector<QPointF>>& lists)
+    static void moveToEnd(QVector<QPointF>& points, QVector<QVector<QPointF>>& lists)
     {
-        if (points.isEmpty())
-            return;
-        detail::makeRoom(lists, 1, m_done, m_count);
-        lists.append(detail::takeAll(points));
+        if (!points.isEmpty())
+            lists.append(detail::takeAll(points));
     }
 
     const double m_count;
