@@ -349,14 +349,13 @@ void FixedPositionLinearAxis::updateTicks()
                 minor.append(minorValue, minorPosition);
         }
     }
-    storeTicks(major, minor);
+    storeTicks(major.ranked(true), minor.ranked(false));
 }
 
-void FixedPositionLinearAxis::storeTicks(const detail::TickPlaces& major,
-                                         const detail::TickPlaces& minor)
+void FixedPositionLinearAxis::storeTicks(const QVector<Tick>& major, const QVector<Tick>& minor)
 {
-    m_majorTicks = major.ranked(true);
-    m_minorTicks = minor.ranked(false);
+    m_majorTicks = major;
+    m_minorTicks = minor;
     m_ticksDirty = false;
 }
 

@@ -10,8 +10,7 @@ namespace chart {
 
 namespace detail {
 struct AxisMap;
-class TickPlaces;
-} // namespace detail
+}
 
 /// A linear axis of numMajorDivisions() equal divisions, each worth scale() logical units. The
 /// divisions stand still; scrolling and scaling change the values that they show.
@@ -144,8 +143,8 @@ private:
     void updateMinimum();
     void updateMaximum();
 
-    // Makes them the present ticks.
-    void storeTicks(const detail::TickPlaces& major, const detail::TickPlaces& minor);
+    // Makes the two lists, which are ranked, the present ticks.
+    void storeTicks(const QVector<Tick>& major, const QVector<Tick>& minor);
 
     int m_numMajorDivisions;
     int m_numMinorDivisions;

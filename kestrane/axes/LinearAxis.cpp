@@ -53,7 +53,7 @@ void LinearAxis::updateTicks()
                 minor.append(minorValue, minorPosition);
         }
     }
-    storeTicks(major, minor);
+    storeTicks(major.ranked(true), minor.ranked(false));
 }
 
 } // namespace chart
