@@ -105,21 +105,25 @@ void SplineAlgorithm<Iterator>::evaluate(const double* indices, std::size_t coun
     const double distance = indices[count - 1] - indices[0];
     if (m_curvature && distance > largestStep * static_cast<double>(count))
         return evaluateApart(indices, count, values);
-    for (std::size_t i = 0; i < count; ++i)
-        values[i] = (*this)[indices[i]];
+    for (std::size_t i = 0; i < count; ++i) {
+        const int interval = static_cast<int>(indices[i]);
+        if (interval != m_interval)
+            selectInterval(interval);
+        values[i] = m_cubic.at(indices[i] - interval);
+    }
 }
 
 template<typename Iterator>
 void SplineAlgorithm<Iterator>::evaluateApart(const double* indices, std::size_t count,
                                               double* values)
 {
-    constexpr std::size_t atOnce = 16;
+    constexpr std::size_t atOnce = 60;
     int intervals[atOnce];
     detail::SplineCurvature::Pair pairs[atOnce];
     const double* const samples = &*m_begin;
     for (std::size_t done = 0; done < count; done += atOnce) {
         const std::size_t size = std::min(atOnce, count - done);
-        std::transform(indices + done, indices + done + size, intervals, intervalAt);
+        std::copy_n(indices + done, size, intervals);
         m_curvature->writePairs(intervals, size, pairs);
         for (std::size_t i = 0; i < size; ++i) {
             const double* const y = samples + intervals[i];

@@ -28,6 +28,9 @@ long long firstNotBefore(long long low, long long high, double guess, const IsBe
 {
     if (guess > static_cast<double>(low) && guess < static_cast<double>(high)) {
         auto place = static_cast<long long>(guess);
+        // Counted, not branched upon: where samples lie on the edges, rounding decides at random.
+        if (place - low >= 2 && high - place >= 2 && isBefore(place - 2) && !isBefore(place + 1))
+            return place - 1 + (isBefore(place - 1) ? 1 : 0) + (isBefore(place) ? 1 : 0);
         for (long long step = 1; place >= low && place < high; step *= 2) {
             if (isBefore(place)) {
                 low = place + 1;

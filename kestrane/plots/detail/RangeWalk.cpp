@@ -44,12 +44,26 @@ void RangeWalk::run()
 {
     alignToFirstSample();
     moveTo(m_index);
+    reserve();
     while (m_index < m_count && m_column.left < 1.0) {
         if (!takeColumn())
             return;
     }
     if (flushColumn())
         completeLonePoint();
+}
+
+// A column has one point of the curve, and two more if it holds samples.
+void RangeWalk::reserve()
+{
+    constexpr double mostColumns = 4096.0;
+    const double end = std::min(1.0, positionOfSample(m_count));
+    const double columns = (end - m_column.left) / m_columnWidth;
+    if (columns > 0.0) {
+        const auto count = static_cast<int>(std::min(columns, mostColumns)) + 2;
+        const long long withSamples = std::min<long long>(m_count - m_index, count);
+        m_plot.polyline.reserve(count + 2 * static_cast<int>(withSamples));
+    }
 }
 
 // All samples of a column, and then the first one behind it, which closes it.
@@ -76,7 +90,7 @@ bool RangeWalk::closeColumn()
     if (!(index >= 0.0)) {
         m_plot.appendExtremes(centre, m_extremes);
     } else {
-        if (!m_spline.covers(index))
+        if (m_ahead.next >= m_ahead.endOfCurve)
             return false;
         const double y = m_yMap.positionOf(m_ahead.curve[m_ahead.next]);
         if (!std::isnan(y))
@@ -93,21 +107,23 @@ void RangeWalk::lookAhead()
 {
     m_ahead.next = 0;
     m_ahead.size = 0;
-    int firstOnCurve = 0, endOfCurve = 0;
+    m_ahead.endOfCurve = 0;
+    int firstOnCurve = 0;
+    const double lastIndex = static_cast<double>(m_count - 1); // Where the spline ends.
     Column column = m_column;
     do {
         const double index = fractionalIndexAt(column.left);
         m_ahead.index[m_ahead.size++] = index;
         if (!(index >= 0.0))
-            firstOnCurve = endOfCurve = m_ahead.size;
-        else if (m_spline.covers(index))
-            endOfCurve = m_ahead.size;
+            firstOnCurve = m_ahead.endOfCurve = m_ahead.size;
+        else if (index < lastIndex)
+            m_ahead.endOfCurve = m_ahead.size;
         column.left = column.right;
         column.right += m_columnWidth;
     } while (m_ahead.size < Ahead::capacity && column.left < 1.0);
     m_ahead.index[m_ahead.size] = fractionalIndexAt(column.left);
     m_spline.evaluate(m_ahead.index + firstOnCurve,
-                      static_cast<std::size_t>(endOfCurve - firstOnCurve),
+                      static_cast<std::size_t>(m_ahead.endOfCurve - firstOnCurve),
                       m_ahead.curve + firstOnCurve);
 }
 
@@ -156,13 +172,11 @@ Extremes RangeWalk::logarithmsOf(long long begin, long long end, const Extremes&
     };
     unite(values.min);
     unite(values.max);
-    const auto uniteOther = [&](double value) {
-        if (value != values.min && value != values.max)
-            unite(value);
-    };
-    m_spline.m_summary->visitBeyond(static_cast<std::size_t>(begin), static_cast<std::size_t>(end),
-                                    values.min * (1.0 + beside), values.max * (1.0 - beside),
-                                    uniteOther);
+    algo::detail::SampleSummary& summary = *m_spline.m_summary;
+    const auto first = static_cast<std::size_t>(begin), last = static_cast<std::size_t>(end);
+    for (std::size_t i = summary.firstBeside(first, last, values, beside); i < last;
+         i = summary.firstBeside(i + 1, last, values, beside))
+        unite(summary[i]);
     return positions;
 }
 

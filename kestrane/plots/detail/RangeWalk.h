@@ -35,13 +35,15 @@ private:
     // The columns to come, from the present one on.
     struct Ahead
     {
-        static constexpr int capacity = 64;
+        static constexpr int capacity = 60;
         double index[capacity + 1]; // Fractional, at the left edge.
         double curve[capacity];     // Void where the spline has no value.
         int size = 0;
+        int endOfCurve = 0; // Of the columns whose left edge the spline covers.
         int next = 0;
     };
 
+    void reserve();
     bool takeColumn();
     bool closeColumn();
     void lookAhead();

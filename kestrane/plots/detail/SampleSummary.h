@@ -48,11 +48,14 @@ public:
     /// either may be given.
     Extremes over(std::size_t begin, std::size_t end) const;
 
-    /// Calls @p visit for each sample of a range that is not greater than @p low, or not less than
-    /// @p high; blocks without one are passed over.
-    template<typename Visit>
-    void visitBeyond(std::size_t begin, std::size_t end, double low, double high,
-                     const Visit& visit) const;
+    /// The first of the samples from @p begin up to, not including, @p end that lies beside one of
+    /// their @p extremes, no farther than @p share of it, but does not equal it; @p end if there is
+    /// none. Blocks and groups without one are passed over, and once it has been seen that a block
+    /// holds nothing beside its own extremes, that is kept.
+    std::size_t firstBeside(std::size_t begin, std::size_t end, const Extremes& extremes,
+                            double share);
+
+    double operator[](std::size_t index) const { return m_samples[index]; }
 
     /// The largest of the absolute values; 0.0 if there are none.
     double magnitude() const;
@@ -62,33 +65,31 @@ public:
 
 private:
     static constexpr std::size_t blockSize = 128;
+    static constexpr std::size_t groupSize = 16; // In blocks.
 
+    // Below low or above high.
+    struct Beside
+    {
+        Extremes extremes;
+        double low, high;
+
+        bool mayBeIn(const Extremes& part) const { return part.min <= low || part.max >= high; }
+    };
+
+    std::size_t passOver(std::size_t begin, std::size_t end, const Beside& beside, double share);
+    bool isLonely(std::size_t block, double share);
+    std::size_t find(std::size_t begin, std::size_t end, const Beside& beside) const;
+
+    void appendBlock(const Extremes& extremes);
     void overBlocks(std::size_t begin, std::size_t end, Extremes& extremes) const;
 
     const double* m_samples;
-    std::vector<Extremes> m_blocks; // Whole ones only.
-    std::vector<Extremes> m_groups; // Likewise.
+    std::vector<Extremes> m_blocks;    // Whole ones only.
+    std::vector<Extremes> m_groups;    // Likewise.
+    std::vector<signed char> m_lonely; // Of blocks: 1 if so, 0 if not, -1 if not yet known.
     Extremes m_whole;
     bool m_isFinite;
 };
-
-template<typename Visit>
-void SampleSummary::visitBeyond(std::size_t begin, std::size_t end, double low, double high,
-                                const Visit& visit) const
-{
-    while (begin < end) {
-        const std::size_t block = begin / blockSize;
-        const std::size_t blockEnd = std::min(end, (block + 1) * blockSize);
-        const bool isWhole = block < m_blocks.size();
-        if (!isWhole || m_blocks[block].min <= low || m_blocks[block].max >= high) {
-            for (std::size_t i = begin; i < blockEnd; ++i) {
-                if (m_samples[i] <= low || m_samples[i] >= high)
-                    visit(m_samples[i]);
-            }
-        }
-        begin = blockEnd;
-    }
-}
 
 } // namespace detail
 } // namespace algo

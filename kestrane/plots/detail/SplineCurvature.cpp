@@ -1,8 +1,9 @@
 #include "kestrane/plots/detail/SplineCurvature.h"
 
+#include "kestrane/plots/detail/CurvatureBatch.h"
+#include "kestrane/plots/detail/SplineRecurrence.h"
+
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 
 namespace pelorin {
 namespace algo {
@@ -10,12 +11,10 @@ namespace detail {
 
 namespace {
 
-// The settled pivot, 2 - sqrt(3), to the 15 decimals that all results are defined by.
-constexpr double K = 0.267949192431123;
-
 // In steps: far enough for ordinary samples, and the farthest that is tried.
 constexpr std::size_t nearReach = 40;
 constexpr std::size_t farReach = 1280;
+constexpr std::size_t nearestBatchReach = 36;
 
 constexpr std::size_t largestStretch = 256;
 
@@ -27,19 +26,9 @@ constexpr double largestMagnitude = 1e307;
 constexpr double upwardBound = 6.0;
 constexpr double downwardBound = 3.0;
 
-constexpr std::size_t batchSize = 4;
-
 double secondDifference(const double* y)
 {
     return (y[-1] - 2 * y[0]) + y[1];
-}
-
-bool haveSameBits(double a, double b)
-{
-    std::uint64_t aBits, bBits;
-    std::memcpy(&aBits, &a, sizeof a);
-    std::memcpy(&bBits, &b, sizeof b);
-    return aBits == bBits;
 }
 
 // Where the walks to some coefficients begin.
@@ -52,63 +41,45 @@ struct Stretch
     double downwardStart; // or 0.0 exactly if this is negative.
 };
 
-template<std::size_t Lanes>
 struct Walks
 {
-    double low[Lanes], high[Lanes];
+    double low, high;
 
     explicit Walks(double bound)
-    {
-        std::fill_n(low, Lanes, bound < 0.0 ? 0.0 : -bound);
-        std::fill_n(high, Lanes, bound < 0.0 ? 0.0 : bound);
-    }
+        : low(bound < 0.0 ? 0.0 : -bound)
+        , high(bound < 0.0 ? 0.0 : bound)
+    {}
 
-    void findMet(bool* met) const
-    {
-        for (std::size_t lane = 0; lane < Lanes; ++lane)
-            met[lane] = met[lane] && haveSameBits(low[lane], high[lane]);
-    }
+    bool haveMet() const { return haveSameBits(low, high); }
 };
 
-// Walks of several lanes side by side; that of a lane goes to the coefficients from the sample at
-// y on. A lane whose walks do not meet is not met, and its coefficients are void.
-template<std::size_t Lanes, std::size_t Room>
-void solve(const Stretch& stretch, const double* const (&y)[Lanes], double* const (&c)[Lanes],
-           bool (&met)[Lanes])
+// To the coefficients from the sample at y on. They are void, and the result false, if the walks do
+// not meet.
+bool solve(const Stretch& stretch, const double* y, double* c)
 {
-    double d[Room][Lanes];
-    Walks<Lanes> up(stretch.upwardStart);
+    double d[largestStretch + farReach];
+    Walks up(stretch.upwardStart);
     for (std::ptrdiff_t i = 1 - static_cast<std::ptrdiff_t>(stretch.left); i <= 0; ++i) {
-        for (std::size_t lane = 0; lane < Lanes; ++lane) {
-            const double difference = secondDifference(y[lane] + i);
-            const double low = difference - up.high[lane] * K;
-            up.high[lane] = difference - up.low[lane] * K;
-            up.low[lane] = low;
-        }
+        const double difference = secondDifference(y + i);
+        const double low = difference - up.high * K;
+        up.high = difference - up.low * K;
+        up.low = low;
     }
-    up.findMet(met);
-    std::copy_n(up.low, Lanes, d[0]);
+    d[0] = up.low;
     const std::size_t end = stretch.count + stretch.right - 1;
-    for (std::size_t i = 1; i < end; ++i) {
-        for (std::size_t lane = 0; lane < Lanes; ++lane)
-            d[i][lane] = secondDifference(y[lane] + i) - d[i - 1][lane] * K;
-    }
+    for (std::size_t i = 1; i < end; ++i)
+        d[i] = secondDifference(y + i) - d[i - 1] * K;
 
-    Walks<Lanes> down(stretch.downwardStart);
+    Walks down(stretch.downwardStart);
     for (std::size_t i = end; i-- >= stretch.count;) {
-        for (std::size_t lane = 0; lane < Lanes; ++lane) {
-            const double low = (d[i][lane] - down.high[lane]) * K;
-            down.high[lane] = (d[i][lane] - down.low[lane]) * K;
-            down.low[lane] = low;
-        }
+        const double low = (d[i] - down.high) * K;
+        down.high = (d[i] - down.low) * K;
+        down.low = low;
     }
-    down.findMet(met);
-    for (std::size_t lane = 0; lane < Lanes; ++lane) {
-        double* const own = c[lane];
-        own[stretch.count - 1] = down.low[lane];
-        for (std::size_t i = stretch.count - 1; i-- > 0;)
-            own[i] = (d[i][lane] - own[i + 1]) * K;
-    }
+    c[stretch.count - 1] = down.low;
+    for (std::size_t i = stretch.count - 1; i-- > 0;)
+        c[i] = (d[i] - c[i + 1]) * K;
+    return up.haveMet() && down.haveMet();
 }
 
 } // namespace
@@ -151,17 +122,13 @@ void SplineCurvature::write(std::size_t first, std::size_t count, double* c)
 // Tries from ever farther away.
 bool SplineCurvature::solveStretch(std::size_t first, std::size_t count, double* c) const
 {
-    const double* const y[] = {m_samples + first};
-    double* const target[] = {c};
     const std::size_t toStart = first, toEnd = m_count - first - count;
     for (std::size_t reach = nearReach; reach <= farReach; reach *= 2) {
         const bool fromStart = toStart <= reach, fromEnd = toEnd <= reach;
         const Stretch stretch{count, std::min(toStart, reach), std::min(toEnd, reach),
                               fromStart ? -1.0 : upwardBound * m_magnitude,
                               fromEnd ? -1.0 : downwardBound * m_magnitude};
-        bool met[] = {true};
-        solve<1, largestStretch + farReach>(stretch, y, target, met);
-        if (met[0])
+        if (solve(stretch, m_samples + first, c))
             return true;
     }
     return false;
@@ -169,33 +136,47 @@ bool SplineCurvature::solveStretch(std::size_t first, std::size_t count, double*
 
 void SplineCurvature::writePairs(const int* intervals, std::size_t count, Pair* pairs)
 {
-    std::size_t done = 0;
-    for (; m_all.empty() && done + batchSize <= count; done += batchSize)
-        writeBatch(intervals + done, pairs + done);
-    for (; done < count; ++done)
-        write(static_cast<std::size_t>(intervals[done]), 2, pairs[done].c);
+    std::size_t reach = nearestBatchReach;
+    for (std::size_t done = 0; done < count;) {
+        const std::size_t size = std::min(count - done, CurvatureBatch::size);
+        reach = writeBatch(intervals + done, size, reach, pairs + done);
+        done += size;
+    }
 }
 
-void SplineCurvature::writeBatch(const int* intervals, Pair* pairs)
+// Tries from ever farther away. The result is how far that was, and where the next batch begins.
+std::size_t SplineCurvature::writeBatch(const int* intervals, std::size_t count, std::size_t reach,
+                                        Pair* pairs)
 {
-    const double* y[batchSize];
-    double* c[batchSize];
-    bool met[batchSize];
-    for (std::size_t lane = 0; lane < batchSize; ++lane) {
-        const auto first = static_cast<std::size_t>(intervals[lane]);
-        met[lane] = first > nearReach && first + 2 + nearReach < m_count;
-        // A lane near one of the ends walks where it may, to no avail.
-        y[lane] = m_samples + (met[lane] ? first : nearReach + 1);
-        c[lane] = pairs[lane].c;
-    }
-    if (m_count > 2 * nearReach + 3)
-        solve<batchSize, nearReach + 2>(
-            {2, nearReach, nearReach, upwardBound * m_magnitude, downwardBound * m_magnitude}, y, c,
-            met);
-    for (std::size_t lane = 0; lane < batchSize; ++lane) {
-        if (!met[lane])
+    CurvatureBatch batch;
+    while (!tryBatch(intervals, count, reach, batch) && 2 * reach <= CurvatureBatch::farthestReach)
+        reach *= 2;
+    for (std::size_t lane = 0; lane < count; ++lane) {
+        if (batch.met[lane])
+            std::copy_n(batch.c[lane], 2, pairs[lane].c);
+        else
             write(static_cast<std::size_t>(intervals[lane]), 2, pairs[lane].c);
     }
+    return reach;
+}
+
+// Whether it is of no use to try again from farther away.
+bool SplineCurvature::tryBatch(const int* intervals, std::size_t count, std::size_t reach,
+                               CurvatureBatch& batch) const
+{
+    std::fill_n(batch.met, CurvatureBatch::size, false);
+    if (!m_all.empty() || m_count < 2 * reach + 4)
+        return true;
+    bool fits[CurvatureBatch::size];
+    for (std::size_t lane = 0; lane < CurvatureBatch::size; ++lane) {
+        const auto first = static_cast<std::size_t>(intervals[std::min(lane, count - 1)]);
+        fits[lane] = first > reach && first + 2 + reach < m_count;
+        // A lane near one of the ends walks where it may, to no avail.
+        batch.samples[lane] = m_samples + (fits[lane] ? first : reach + 1);
+    }
+    std::copy_n(fits, CurvatureBatch::size, batch.met);
+    batch.solve(reach, upwardBound * m_magnitude, downwardBound * m_magnitude);
+    return std::equal(fits, fits + CurvatureBatch::size, batch.met);
 }
 
 // Those of the definition, over all samples.

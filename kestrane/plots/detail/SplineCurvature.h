@@ -8,6 +8,8 @@ namespace pelorin {
 namespace algo {
 namespace detail {
 
+struct CurvatureBatch;
+
 /// The coefficients c[i] of SplineAlgorithm, bit for bit as two passes over all n samples give
 /// them,
 ///
@@ -43,7 +45,9 @@ public:
 
 private:
     bool solveStretch(std::size_t first, std::size_t count, double* c) const;
-    void writeBatch(const int* intervals, Pair* pairs);
+    std::size_t writeBatch(const int* intervals, std::size_t count, std::size_t reach, Pair* pairs);
+    bool tryBatch(const int* intervals, std::size_t count, std::size_t reach,
+                  CurvatureBatch& batch) const;
     void makePasses();
 
     const double* m_samples;
