@@ -1,6 +1,7 @@
 #include "kestrane/plots/NeedlePlotAlgorithm.h"
 
 #include "kestrane/axes/detail/AxisMap.h"
+#include "kestrane/library/detail/FreshMemory.h"
 #include "kestrane/plots/detail/Columns.h"
 #include "kestrane/plots/detail/SampleSummary.h"
 
@@ -39,6 +40,7 @@ void appendEach(backend::SampleVector& needles, const Run<Map>& run)
 {
     constexpr long long atOnce = 512;
     double positions[atOnce];
+    detail::preferLargePages(needles.data(), needles.capacity() * sizeof(double));
     for (long long begin = 0; begin < run.count; begin += atOnce) {
         const long long size = std::min(atOnce, run.count - begin);
         for (long long i = 0; i < size; ++i)

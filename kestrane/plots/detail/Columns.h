@@ -4,6 +4,8 @@
 #include <QPointF>
 #include <QVector>
 
+#include <algorithm>
+
 namespace pelorin {
 namespace ui {
 namespace chart {
@@ -21,16 +23,19 @@ struct Thinning
 double leftEdgeOfColumnAt(double position, double columnWidth);
 
 /// The first of the indices from @p low to @p high that is not before some place, by a comparison
-/// that ascends with the index; @p high if there is none below it. Looks beside the guess, ever
-/// farther, and then between the last two places: O(log of the distance to the guess).
+/// that ascends with the index, also a little way outside; @p high if there is none below it. Looks
+/// beside the guess, ever farther, and then between the last two places: O(log of the distance to
+/// the guess).
 template<typename IsBefore>
 long long firstNotBefore(long long low, long long high, double guess, const IsBefore& isBefore)
 {
-    if (guess > static_cast<double>(low) && guess < static_cast<double>(high)) {
+    if (guess >= static_cast<double>(low) && guess <= static_cast<double>(high)) {
         auto place = static_cast<long long>(guess);
         // Counted, not branched upon: where samples lie on the edges, rounding decides at random.
-        if (place - low >= 2 && high - place >= 2 && isBefore(place - 2) && !isBefore(place + 1))
-            return place - 1 + (isBefore(place - 1) ? 1 : 0) + (isBefore(place) ? 1 : 0);
+        if (isBefore(place - 2) && !isBefore(place + 1)) {
+            place += (isBefore(place - 1) ? 1 : 0) + (isBefore(place) ? 1 : 0) - 1;
+            return std::min(std::max(place, low), high);
+        }
         for (long long step = 1; place >= low && place < high; step *= 2) {
             if (isBefore(place)) {
                 low = place + 1;

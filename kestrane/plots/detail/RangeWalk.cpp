@@ -105,26 +105,26 @@ bool RangeWalk::closeColumn()
 
 void RangeWalk::lookAhead()
 {
+    double left[Ahead::capacity + 1];
+    int size = 0;
+    left[0] = m_column.left;
+    left[1] = m_column.right;
+    for (double right = m_column.right; ++size < Ahead::capacity && left[size] < 1.0;)
+        left[size + 1] = right += m_columnWidth;
+    for (int k = 0; k <= size; ++k)
+        m_ahead.index[k] = fractionalIndexAt(left[k]);
     m_ahead.next = 0;
-    m_ahead.size = 0;
-    m_ahead.endOfCurve = 0;
-    int firstOnCurve = 0;
+    m_ahead.size = size;
+
     const double lastIndex = static_cast<double>(m_count - 1); // Where the spline ends.
-    Column column = m_column;
-    do {
-        const double index = fractionalIndexAt(column.left);
-        m_ahead.index[m_ahead.size++] = index;
-        if (!(index >= 0.0))
-            firstOnCurve = m_ahead.endOfCurve = m_ahead.size;
-        else if (index < lastIndex)
-            m_ahead.endOfCurve = m_ahead.size;
-        column.left = column.right;
-        column.right += m_columnWidth;
-    } while (m_ahead.size < Ahead::capacity && column.left < 1.0);
-    m_ahead.index[m_ahead.size] = fractionalIndexAt(column.left);
-    m_spline.evaluate(m_ahead.index + firstOnCurve,
-                      static_cast<std::size_t>(m_ahead.endOfCurve - firstOnCurve),
-                      m_ahead.curve + firstOnCurve);
+    const double* const begin = m_ahead.index;
+    const double* const end = begin + size;
+    const double* const first = std::find_if(begin, end, [](double index) { return index >= 0.0; });
+    const double* const last =
+        std::find_if(first, end, [=](double index) { return !(index < lastIndex); });
+    m_ahead.endOfCurve = static_cast<int>(last - begin);
+    m_spline.evaluate(first, static_cast<std::size_t>(last - first),
+                      m_ahead.curve + (first - begin));
 }
 
 void RangeWalk::collectUpTo(long long end)

@@ -44,6 +44,7 @@ public:
     void writePairs(const int* intervals, std::size_t count, Pair* pairs);
 
 private:
+    bool vanishes(std::size_t first, std::size_t count) const;
     bool solveStretch(std::size_t first, std::size_t count, double* c) const;
     std::size_t writeBatch(const int* intervals, std::size_t count, std::size_t reach, Pair* pairs);
     bool tryBatch(const int* intervals, std::size_t count, std::size_t reach,
