@@ -5,6 +5,7 @@
 #include "tests/plots/RandomAxis.h"
 #include "tests/support/Builders.h"
 #include "tests/support/Numbers.h"
+#include "tests/support/Seeds.h"
 
 #include <gtest/gtest.h>
 
@@ -180,7 +181,8 @@ TEST(XYAndNeedlesDifferentialTest, AgreeWithThePlainRulesBitForBit)
 {
     int lines = 0, symbols = 0, needles = 0, throws = 0;
     std::set<std::pair<std::string, std::string>> kinds;
-    for (unsigned seed = 0; seed < 4000; ++seed) {
+    const Seeds seeds(4000);
+    for (unsigned seed = seeds.first; seed < seeds.end; ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         Dice dice(seed);
         const auto xAxis = randomAxis(dice), yAxis = randomAxis(dice);

@@ -3,6 +3,7 @@
 #include "tests/plots/RandomAxis.h"
 #include "tests/support/Builders.h"
 #include "tests/support/Numbers.h"
+#include "tests/support/Seeds.h"
 #include "tests/surfaces/PlainSurface.h"
 
 #include <gtest/gtest.h>
@@ -238,7 +239,8 @@ struct Plots
 TEST(SurfaceDifferentialTest, AgreesWithThePlainRulesBitForBit)
 {
     std::size_t cells = 0, needles = 0, reused = 0, thrown = 0;
-    for (unsigned seed = 0; seed < 300 && !HasFailure(); ++seed) {
+    const Seeds seeds(300);
+    for (unsigned seed = seeds.first; seed < seeds.end && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         Dice dice(seed);
         Plots plots(dice);
