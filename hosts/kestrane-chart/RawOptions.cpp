@@ -19,7 +19,7 @@ constexpr auto footer = R"(Data
 
 Kinds of plots
   line     each column or channel over x
-  xy       the second of two columns over the first, in the order of the rows; there is no time
+  xy       each further column over the first, in the order of the rows; there is no time
            column then unless --time-column names one
   needles  a stick for each sample, standing on 0; of those in a column of pixels the longest
   histogram    cells in colours: a table of numbers, its columns over x and its rows over y; or, of

@@ -5,11 +5,11 @@
 
 namespace hosts::chart {
 
-/// The second of two series over the first, in the order in which they were measured.
+/// Each series but the first over the first, in the order in which they were measured.
 class XYPlot : public Plot
 {
 public:
-    /// @throws WorkError if there are not two of them
+    /// @throws WorkError if there are not two of them at least
     /// @throws std::runtime_error if they are not sampled in step
     XYPlot(const std::vector<data::Series>& series, const Options& options);
 
