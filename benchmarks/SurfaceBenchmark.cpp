@@ -1,103 +1,22 @@
 // What does a redraw of two-dimensional data cost, and how far is that from the plainest way to the
 // same colours, or from one pass over the memory? "cells" are those of the result; "ns/sample"
 // counts all samples; "limits" is the time of a call against that of the plainest way.
+#include "benchmarks/SurfaceWorkload.h"
 #include "benchmarks/Workload.h"
 
-#include <kestrane/surfaces/Histogram2DPlotAlgorithm.h>
 #include <kestrane/surfaces/NeedlePlot2DAlgorithm.h>
 
 #include <benchmark/benchmark.h>
-#include <boost/make_shared.hpp>
 
 #include <algorithm>
-#include <array>
 #include <chrono>
-#include <cmath>
-#include <cstring>
 #include <limits>
-#include <random>
-#include <utility>
-#include <vector>
 
 namespace {
 
 using namespace benchmarks;
 using namespace pelorin::ui::chart;
-using pelorin::backend::MultiDimensionalPlotSegment;
-using pelorin::backend::MultiDimensionalPlotSnapshot;
 using pelorin::ui::ColorMap;
-
-constexpr double pixelSize = 1.0 / 1000;
-
-struct Workload
-{
-    long long side;
-    int classes = 10;
-    bool isDenseAlongY = false;
-    unsigned percentNaN = 0; // Zeros, where samples are whole numbers.
-};
-
-// Counts of two Gaussian peaks on a floor of noise, side times side of them over the whole axes;
-// all of them less than 1024.
-template<typename T>
-MultiDimensionalPlotSnapshot<T, 2> grid(const Workload& workload)
-{
-    const long long side = workload.side;
-    const auto samples = boost::make_shared<T[]>(static_cast<std::size_t>(side * side));
-    std::mt19937_64 random(1);
-    for (long long k = 0; k < side * side; ++k) {
-        const double x = static_cast<double>(k % side) / static_cast<double>(side);
-        const double y = static_cast<double>(k / side) / static_cast<double>(side);
-        const double peaks = std::exp(-50.0 * ((x - 0.3) * (x - 0.3) + (y - 0.4) * (y - 0.4))) +
-                             std::exp(-200.0 * ((x - 0.7) * (x - 0.7) + (y - 0.6) * (y - 0.6)));
-        samples[k] = static_cast<T>(1000.0 * peaks + static_cast<double>(random() % 16));
-        if (random() % 100 < workload.percentNaN)
-            samples[k] = std::numeric_limits<T>::quiet_NaN();
-    }
-    const pelorin::backend::MetaInfo info(0.0, 1.0 / static_cast<double>(side));
-    std::array<long long, 2> strides{1, side};
-    if (workload.isDenseAlongY)
-        std::swap(strides[0], strides[1]);
-    return MultiDimensionalPlotSnapshot<T, 2>(
-        {MultiDimensionalPlotSegment<T, 2>(samples, {info, info}, {side, side}, strides)});
-}
-
-// Few classes twice as wide each time, or many of equal width.
-ColorMap colorMap(int classes)
-{
-    ColorMap map;
-    auto builder = map.build();
-    for (int k = 0; k < classes; ++k)
-        builder.appendEntry(QColor::fromHsv(240 - 240 * k / classes, 255, 255),
-                            classes <= 10 ? std::size_t(1) << k : std::size_t(4 * k + 1));
-    return map;
-}
-
-// The yardstick: what writes a colour for each cell with no more than a look at each sample, into
-// memory at hand. It may know that cells are squares of some width and counts whole and small.
-template<typename T, int width>
-void writePlainCells(const T* samples, long long side, const std::vector<QColor>& colors,
-                     std::vector<QColor>& cells)
-{
-    std::vector<T> line(static_cast<std::size_t>(side));
-    T* __restrict const largest = line.data();
-    QColor* cell = cells.data();
-    for (long long y = 0; y + width <= side; y += width, samples += width * side) {
-        for (long long x = 0; x < side; ++x) {
-            T value = 0;
-            for (int row = 0; row < width; ++row)
-                value = samples[row * side + x] > value ? samples[row * side + x] : value;
-            largest[x] = value;
-        }
-        for (long long x = 0; x + width <= side; x += width) {
-            T value = largest[x];
-            for (int column = 1; column < width; ++column)
-                value = std::max(value, largest[x + column]);
-            std::memcpy(static_cast<void*>(cell++), &colors[static_cast<unsigned>(value)],
-                        sizeof(QColor));
-        }
-    }
-}
 
 template<typename Call>
 double secondsOf(const Call& call)
@@ -109,20 +28,13 @@ double secondsOf(const Call& call)
 }
 
 template<typename T>
-double secondsOfPlainCells(const Workload& workload, const T* samples, const ColorMap& map,
-                           std::vector<QColor>& cells)
+double secondsOfPlainCells(PlainCells<T>& cells)
 {
-    std::vector<QColor> colors;
-    for (std::size_t count = 0; count < 1024; ++count)
-        colors.push_back(map.mapToColor(count));
-    const auto write = workload.side == 4000   ? writePlainCells<T, 4>
-                       : workload.side == 2000 ? writePlainCells<T, 2>
-                                               : writePlainCells<T, 1>;
     double best = std::numeric_limits<double>::max();
     for (int i = 0; i < 9; ++i)
         best = std::min(best, secondsOf([&] {
-                            write(samples, workload.side, colors, cells);
-                            return cells.data();
+                            cells.write();
+                            return 0;
                         }));
     return best;
 }
@@ -146,24 +58,11 @@ double secondsPerCall(benchmark::State& state, Plot& plot, const Call& call, boo
     return perCall;
 }
 
-// Of a result cell by cell and of cells in the order of the memory.
-bool areSame(const Histogram2DPlotAlgorithm::HistoSegment& segment, bool isDenseAlongY,
-             const std::vector<QColor>& cells)
-{
-    const std::size_t width = segment.xEdges.size() - 1;
-    const std::size_t height = segment.yEdges.size() - 1;
-    for (std::size_t k = 0; k < cells.size() && segment.colors.size() == cells.size(); ++k) {
-        if (segment.colors[k] != cells[isDenseAlongY ? k % width * height + k / width : k])
-            return false;
-    }
-    return segment.colors.size() == cells.size();
-}
-
 template<typename T, bool hit>
 void makeColorArrays(benchmark::State& state)
 {
-    const Workload workload{state.range(0), static_cast<int>(state.range(1)), state.range(2) != 0,
-                            static_cast<unsigned>(state.range(3))};
+    const SurfaceWorkload workload{state.range(0), static_cast<int>(state.range(1)),
+                                   state.range(2) != 0, static_cast<unsigned>(state.range(3))};
     const auto axis = linearAxis(1.0);
     const ColorMap map = colorMap(workload.classes);
     const auto data = grid<T>(workload);
@@ -172,14 +71,13 @@ void makeColorArrays(benchmark::State& state)
     const auto call = [&] { return plot.makeColorArrays(axis, axis, map, pixelSize, pixelSize); };
 
     // Times count only for a result that is right.
-    const long long side = std::min(workload.side, 1000LL);
-    std::vector<QColor> cells(static_cast<std::size_t>(side * side));
-    double limit = secondsOfPlainCells(workload, data.begin()->base, map, cells);
-    if (!areSame(call().at(0), workload.isDenseAlongY, cells))
+    PlainCells<T> cells(workload, data.begin()->base, map);
+    double limit = secondsOfPlainCells(cells);
+    if (!areSame(call().at(0), workload.isDenseAlongY, cells.cells()))
         return state.SkipWithError("a cell has another colour than by the plain way");
-    state.counters["cells"] = static_cast<double>(cells.size());
+    state.counters["cells"] = static_cast<double>(cells.cells().size());
     const double seconds = secondsPerCall(state, plot, call, hit);
-    limit = std::min(limit, secondsOfPlainCells(workload, data.begin()->base, map, cells));
+    limit = std::min(limit, secondsOfPlainCells(cells));
     state.counters["limits"] = seconds / limit;
 }
 
