@@ -66,8 +66,11 @@ public:
         if (m_collecting)
             detail::makeRoom(m_symbols, count, m_done, m_count);
         for (int i = 0; i < count; ++i) {
-            if (!m_values.isEmpty && !m_collecting && m_columnX != noColumn)
+            if (!m_values.isEmpty && !m_collecting && m_columnX != noColumn) {
                 i = putWithin(m_columnX, m_columnWidth, x, y, i, count, m_values);
+                if (m_values.min == m_values.max)
+                    i = passLonePoints(x, y, i, count);
+            }
             if (i < count && !takePoint(x[i], y[i]))
                 closeLine();
         }
@@ -98,6 +101,29 @@ private:
             addSymbol(x, y);
         m_values.put(y);
         return true;
+    }
+
+    // Goes on to the first of the points from one on that does not leave the column of the one
+    // before it: until then each has a column of its own.
+    int passLonePoints(const double* x, const double* y, int i, int count)
+    {
+        QPointF points[batch];
+        int size = 0;
+        double columnX = m_columnX, value = m_values.first;
+        while (i < count && std::fabs(x[i] - columnX) >= m_columnWidth && x[i] != noColumn &&
+               !std::isnan(y[i])) {
+            points[size++] = QPointF(columnX, value);
+            columnX = x[i];
+            value = y[i++];
+        }
+        if (size == 0)
+            return i;
+        m_polyline.resize(m_polyline.size() + size);
+        std::copy_n(points, size, m_polyline.end() - size);
+        m_columnX = columnX;
+        m_values.isEmpty = true;
+        m_values.put(value);
+        return i;
     }
 
     void selectColumn(double x)
