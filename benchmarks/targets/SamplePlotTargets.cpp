@@ -1,12 +1,10 @@
 // What does a redraw of a sampled signal cost against one pass over its samples?
 #include "benchmarks/Workload.h"
 #include "benchmarks/targets/Contest.h"
-#include "benchmarks/targets/Limits.h"
 #include "benchmarks/targets/Peers.h"
 #include "benchmarks/targets/Questions.h"
 #include "benchmarks/targets/SampleRedraw.h"
 
-#include <benchmark/benchmark.h>
 #include <boost/make_shared.hpp>
 
 #include <malloc.h>
@@ -55,9 +53,10 @@ void addWhole(Table& table, long long count)
         return;
     const std::vector<double> copy(samples->begin(), samples->end());
     Contestant own = onceNew(first, samples);
-    own.prepare = [prepare = own.prepare, &samples] {
-        prepare();
-        benchmark::DoNotOptimize(plainPass(samples->data(), samples->size()));
+    own.prepare = [renew = own.prepare, call = own.call] { // As peers are.
+        renew();
+        call();
+        renew();
     };
     addPeers(table, name + "first call", own, count > 1000000 ? 0.0 : 0.25,
              [&](const benchmarks::Peer& peer) { return peer.reducers(copy); });
