@@ -174,6 +174,8 @@ Extremes RangeWalk::logarithmsOf(long long begin, long long end, const Extremes&
     unite(values.max);
     algo::detail::SampleSummary& summary = *m_spline.m_summary;
     const auto first = static_cast<std::size_t>(begin), last = static_cast<std::size_t>(end);
+    if (summary.standApart(first, last, values, beside))
+        return positions;
     for (std::size_t i = summary.firstBeside(first, last, values, beside); i < last;
          i = summary.firstBeside(i + 1, last, values, beside))
         unite(summary[i]);

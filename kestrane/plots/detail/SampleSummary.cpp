@@ -64,6 +64,33 @@ KESTRANE_ALWAYS_INLINE void lookAt(const double* samples, std::size_t count, Loo
     }
 }
 
+// Whether no more than one number is not above low, and no more than one not below high.
+template<typename Vectors>
+KESTRANE_ALWAYS_INLINE bool areApart(const double* samples, std::size_t count, double low,
+                                     double high)
+{
+    using Mask = typename Vectors::Mask;
+    constexpr std::size_t width = Vectors::width;
+    Mask lowCounts{}, highCounts{}; // Masks are 0 or -1 in each lane.
+    std::size_t i = 0;
+    for (; i + width <= count; i += width) {
+        typename Vectors::Lanes value;
+        std::memcpy(&value, samples + i, sizeof value);
+        lowCounts -= value <= low;
+        highCounts -= value >= high;
+    }
+    std::int64_t lowCount = 0, highCount = 0;
+    for (std::size_t lane = 0; lane < width; ++lane) {
+        lowCount += lowCounts[lane];
+        highCount += highCounts[lane];
+    }
+    for (; i < count; ++i) {
+        lowCount += samples[i] <= low;
+        highCount += samples[i] >= high;
+    }
+    return lowCount <= 1 && highCount <= 1;
+}
+
 // The first number in [low.min, low.max] or [high.min, high.max], but none of the outer two; count
 // if there is none.
 template<typename Vectors>
@@ -158,6 +185,20 @@ Extremes SampleSummary::over(std::size_t begin, std::size_t end) const
     overBlocks(firstBlock, lastBlock, extremes);
     extremes.unite(extremesOf(m_samples + lastBlock * blockSize, end - lastBlock * blockSize));
     return extremes;
+}
+
+bool SampleSummary::standApart(std::size_t begin, std::size_t end, const Extremes& extremes,
+                               double share) const
+{
+    if (end - begin > 2 * blockSize)
+        return false;
+    bool result = false;
+    pelorin::detail::withWideVectors([&](auto vectors) {
+        result =
+            areApart<decltype(vectors)>(m_samples + begin, end - begin,
+                                        extremes.min * (1.0 + share), extremes.max * (1.0 - share));
+    });
+    return result;
 }
 
 std::size_t SampleSummary::firstBeside(std::size_t begin, std::size_t end, const Extremes& extremes,

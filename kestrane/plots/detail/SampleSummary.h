@@ -48,6 +48,12 @@ public:
     /// either may be given.
     Extremes over(std::size_t begin, std::size_t end) const;
 
+    /// Whether it is plain to see that no other sample of a range, nor the same one twice, lies
+    /// beside the @p extremes of it, no farther than @p share of them. Long ranges are better
+    /// searched by firstBeside().
+    bool standApart(std::size_t begin, std::size_t end, const Extremes& extremes,
+                    double share) const;
+
     /// The first of the samples from @p begin up to, not including, @p end that lies beside one of
     /// their @p extremes, no farther than @p share of it, but does not equal it; @p end if there is
     /// none. Blocks and groups without one are passed over, and once it has been seen that a block
