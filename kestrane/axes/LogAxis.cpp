@@ -238,7 +238,7 @@ void LogAxis::updateTicks()
     if (!m_ticksInvalid)
         return;
 
-    // Ends the walk where a limit is 0.0 or infinite; the decades of all doubles need a quarter.
+    // Ends the walk where a limit is 0.0 or infinite; the decades of all doubles need half of them.
     constexpr int mostPasses = 10000;
 
     const double end = std::log10(m_largest);

@@ -155,7 +155,7 @@ template<typename Iterator>
 void SplineAlgorithm<Iterator>::findStretch(int interval)
 {
     const int end = m_stretchBegin + static_cast<int>(m_stretch.size());
-    const bool isNext = interval >= end - 1 && interval < end + largestStep;
+    const bool isNext = interval >= end - 1 && interval - end < largestStep;
     const int count = static_cast<int>(m_count);
     int begin = interval, size = 2;
     if (count <= stretchSize) {
@@ -164,9 +164,12 @@ void SplineAlgorithm<Iterator>::findStretch(int interval)
     } else if (isNext) {
         size = std::min(stretchSize, count - begin);
     }
-    m_stretch.resize(static_cast<std::size_t>(size));
+    std::vector<double> stretch = std::move(m_stretch); // Void until it is written.
+    m_stretch.clear();
+    stretch.resize(static_cast<std::size_t>(size));
+    m_curvature->write(static_cast<std::size_t>(begin), stretch.size(), stretch.data());
+    m_stretch = std::move(stretch);
     m_stretchBegin = begin;
-    m_curvature->write(static_cast<std::size_t>(begin), m_stretch.size(), m_stretch.data());
 }
 
 // Between samples y0 and y1, with t from 0 to 1, the second derivative goes straight from 6 c0 to

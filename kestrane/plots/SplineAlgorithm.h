@@ -47,9 +47,9 @@ class SplineCurvature;
 /// Set-up is one pass that finds the extremes of the samples by blocks, and keeps 2 % of their
 /// memory. A query is O(1), cheapest within the interval of the last one and then beside it: the
 /// coefficients are found from the samples around it, exactly as the two passes give them. Only
-/// where that cannot be (some curves of constant curvature, samples beyond 1e307) are the passes
-/// made, once, and one double per sample kept. Samples are shared, not copied; at most INT_MAX of
-/// them.
+/// where that cannot be (some parabolas and patterns of a short period, samples beyond 1e307) are
+/// the passes made, once, and one double per sample kept. Samples are shared, not copied; at most
+/// INT_MAX of them.
 ///
 /// Threads: a query moves a cache, so that one object serves one thread at a time.
 ///

@@ -3,6 +3,8 @@
 #include "kestrane/library/detail/WideVectors.h"
 #include "kestrane/plots/detail/SplineRecurrence.h"
 
+#include <memory>
+
 namespace pelorin {
 namespace algo {
 namespace detail {
@@ -83,8 +85,15 @@ KESTRANE_ALWAYS_INLINE void solveLanes(CurvatureBatch& batch, std::size_t reach,
     constexpr std::size_t width = Vectors::width;
     constexpr std::size_t depth = CurvatureBatch::size / width;
     using Lanes = typename Vectors::Lanes;
-    // Those of the second coefficient and right of it end with the last step downwards.
-    Lanes d[CurvatureBatch::farthestReach + 1][depth];
+    struct Step
+    {
+        Lanes lanes[depth];
+    };
+    // Of the first coefficient and right of it. No more on the stack than any thread has.
+    constexpr std::size_t nearReach = 144;
+    Step near[nearReach + 1];
+    const std::unique_ptr<Step[]> far(reach > nearReach ? new Step[reach + 1] : nullptr);
+    Step* const d = far ? far.get() : near;
     Lanes difference[depth];
     Differences<Vectors> differences(batch.samples, 1 - static_cast<std::ptrdiff_t>(reach));
 
@@ -100,25 +109,25 @@ KESTRANE_ALWAYS_INLINE void solveLanes(CurvatureBatch& batch, std::size_t reach,
     }
     up.findMet(batch.met);
     for (std::size_t i = 0; i < depth; ++i)
-        d[0][i] = up.low[i];
+        d[0].lanes[i] = up.low[i];
     for (std::size_t step = 1; step <= reach; ++step) {
         differences.take(difference);
         for (std::size_t i = 0; i < depth; ++i)
-            d[step][i] = difference[i] - d[step - 1][i] * K;
+            d[step].lanes[i] = difference[i] - d[step - 1].lanes[i] * K;
     }
 
     Walks<Vectors> down;
     down.start(downwardStart);
     for (std::size_t step = reach; step > 0; --step) {
         for (std::size_t i = 0; i < depth; ++i) {
-            const Lanes low = (d[step][i] - down.high[i]) * K;
-            down.high[i] = (d[step][i] - down.low[i]) * K;
+            const Lanes low = (d[step].lanes[i] - down.high[i]) * K;
+            down.high[i] = (d[step].lanes[i] - down.low[i]) * K;
             down.low[i] = low;
         }
     }
     down.findMet(batch.met);
     for (std::size_t i = 0; i < depth; ++i) {
-        const Lanes first = (d[0][i] - down.low[i]) * K;
+        const Lanes first = (d[0].lanes[i] - down.low[i]) * K;
         for (std::size_t lane = 0; lane < width; ++lane) {
             batch.c[i * width + lane][0] = first[lane];
             batch.c[i * width + lane][1] = down.low[i][lane];

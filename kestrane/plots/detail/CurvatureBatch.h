@@ -13,12 +13,14 @@ namespace detail {
 struct CurvatureBatch
 {
     static constexpr std::size_t size = 12;
-    static constexpr std::size_t farthestReach = 144;
+    static constexpr std::size_t farthestReach =
+        1152; ///< Bounds of any size shrink to 0.0 by then.
 
     /// @param reach steps to the coefficients from either side; samples[lane][-reach] to
     ///        samples[lane][reach + 1] are read
     /// @param upwardStart,downwardStart what lies before the first steps is between minus this and
     ///        this
+    /// @throws std::bad_alloc for a far reach
     void solve(std::size_t reach, double upwardStart, double downwardStart);
 
     const double* samples[size]; ///< The one of the first coefficient.

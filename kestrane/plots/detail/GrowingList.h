@@ -20,9 +20,9 @@ namespace detail {
 template<typename T>
 void makeRoom(QVector<T>& list, int more, double done, double count)
 {
-    if (list.capacity() - list.size() >= more)
-        return;
     constexpr double most = std::numeric_limits<int>::max() / 2 / sizeof(T);
+    if (list.capacity() - list.size() >= more || list.size() >= most / 2)
+        return; // Near the end of what a list can hold it grows as lists do.
     constexpr double reserve = 1.0 / 16;
     // The first few steps tell little. The last ones may bring more than all before.
     const double growth = std::clamp(count / done * (1.0 + reserve), 1.5, 64.0);

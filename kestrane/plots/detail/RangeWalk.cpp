@@ -1,5 +1,7 @@
 #include "kestrane/plots/detail/RangeWalk.h"
 
+#include "kestrane/plots/detail/GrowingList.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -130,6 +132,8 @@ void RangeWalk::lookAhead()
 void RangeWalk::collectUpTo(long long end)
 {
     if (m_symbolsOn) {
+        makeRoom(m_plot.symbols, static_cast<int>(end - m_index),
+                 static_cast<double>(std::max(m_index, 1LL)), static_cast<double>(m_count));
         for (long long i = m_index; i < end; ++i) {
             const double y = m_yMap.positionOf(m_samples[i]);
             if (!std::isnan(y))

@@ -1,11 +1,11 @@
 #include "kestrane/plots/detail/SplineCurvature.h"
 
-#include "kestrane/library/detail/WideVectors.h"
+#include "kestrane/library/detail/FreshMemory.h"
 #include "kestrane/plots/detail/CurvatureBatch.h"
 #include "kestrane/plots/detail/SplineRecurrence.h"
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace pelorin {
 namespace algo {
@@ -19,10 +19,6 @@ constexpr std::size_t farReach = 1280;
 constexpr std::size_t nearestBatchReach = 36;
 
 constexpr std::size_t largestStretch = 256;
-
-// In steps: what a walk without second differences leaves of any bound is 0.0 exactly, since 2^1027
-// shrinks below the smallest double of all, 2^-1074, by 1.9 bits a step.
-constexpr std::size_t vanishingReach = 1120;
 
 // Beyond this a step may overflow.
 constexpr double largestMagnitude = 1e307;
@@ -88,35 +84,6 @@ bool solve(const Stretch& stretch, const double* y, double* c)
     return up.haveMet() && down.haveMet();
 }
 
-// Whether all second differences around the samples from y on are 0.0, and not -0.0.
-template<typename Vectors>
-KESTRANE_ALWAYS_INLINE bool isStraight(const double* y, std::size_t count)
-{
-    using Lanes = typename Vectors::Lanes;
-    constexpr std::size_t width = Vectors::width, turn = 8 * width;
-    std::size_t i = 0;
-    for (; i + turn <= count; i += turn) {
-        typename Vectors::Mask bits{};
-        for (std::size_t k = i; k < i + turn; k += width) {
-            Lanes before, here, behind;
-            std::memcpy(&before, y + k - 1, sizeof before);
-            std::memcpy(&here, y + k, sizeof here);
-            std::memcpy(&behind, y + k + 1, sizeof behind);
-            const Lanes difference = (before - 2 * here) + behind;
-            bits |= (typename Vectors::Mask)difference;
-        }
-        for (std::size_t lane = 0; lane < width; ++lane) {
-            if (bits[lane] != 0)
-                return false;
-        }
-    }
-    for (; i < count; ++i) {
-        if (!haveSameBits(secondDifference(y + i), 0.0))
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 SplineCurvature::SplineCurvature(const double* samples, std::size_t count, double magnitude)
@@ -158,10 +125,6 @@ void SplineCurvature::write(std::size_t first, std::size_t count, double* c)
 bool SplineCurvature::solveStretch(std::size_t first, std::size_t count, double* c) const
 {
     const std::size_t toStart = first, toEnd = m_count - first - count;
-    if (vanishes(first, count)) {
-        std::fill_n(c, count, 0.0);
-        return true;
-    }
     for (std::size_t reach = nearReach; reach <= farReach; reach *= 2) {
         const bool fromStart = toStart <= reach, fromEnd = toEnd <= reach;
         const Stretch stretch{count, std::min(toStart, reach), std::min(toEnd, reach),
@@ -171,19 +134,6 @@ bool SplineCurvature::solveStretch(std::size_t first, std::size_t count, double*
             return true;
     }
     return false;
-}
-
-// Whether samples are so deep in a straight line, most often silence, that nothing else reaches
-// them.
-bool SplineCurvature::vanishes(std::size_t first, std::size_t count) const
-{
-    const std::size_t begin = std::max(first, vanishingReach + 1) - vanishingReach;
-    const std::size_t end = std::min(first + count + vanishingReach, m_count - 1);
-    bool result = false;
-    pelorin::detail::withWideVectors([&](auto vectors) {
-        result = isStraight<decltype(vectors)>(m_samples + begin, end - begin);
-    });
-    return result;
 }
 
 void SplineCurvature::writePairs(const int* intervals, std::size_t count, Pair* pairs)
@@ -234,7 +184,11 @@ bool SplineCurvature::tryBatch(const int* intervals, std::size_t count, std::siz
 // Those of the definition, over all samples.
 void SplineCurvature::makePasses()
 {
-    m_all.assign(m_count, 0.0);
+    std::vector<double> all;
+    all.reserve(m_count);
+    ui::chart::detail::preferLargePages(all.data(), m_count * sizeof(double));
+    all.assign(m_count, 0.0);
+    m_all = std::move(all);
     if (m_count < 3)
         return;
     double* const c = m_all.data();

@@ -24,7 +24,8 @@ struct CurvatureBatch;
 ///
 /// How long they take depends on the samples: up to some 1100 in stretches of zeros and straight
 /// lines, and they never meet where the steps alternate between two neighbouring numbers, as they
-/// may on a parabola. Then the two passes are made after all, once, and kept.
+/// may on a parabola or a pattern of a short period. Then the two passes are made after all, once,
+/// and kept.
 class SplineCurvature
 {
 public:
@@ -44,7 +45,6 @@ public:
     void writePairs(const int* intervals, std::size_t count, Pair* pairs);
 
 private:
-    bool vanishes(std::size_t first, std::size_t count) const;
     bool solveStretch(std::size_t first, std::size_t count, double* c) const;
     std::size_t writeBatch(const int* intervals, std::size_t count, std::size_t reach, Pair* pairs);
     bool tryBatch(const int* intervals, std::size_t count, std::size_t reach,
