@@ -3,6 +3,8 @@
 #include "kestrane/axes/detail/InTurn.h"
 #include "kestrane/axes/detail/RankOrder.h"
 
+#include <QPointer>
+
 namespace pelorin {
 namespace ui {
 namespace chart {
@@ -26,7 +28,11 @@ Axis::ScrollScaleState::~ScrollScaleState() = default;
 
 Axis::Axis(QObject* parent)
     : QObject(parent)
-{}
+{
+    // All guards of an object share one piece of memory. Taken here, it cannot be missing in the
+    // middle of a change.
+    const QPointer<QObject> guard(this);
+}
 
 bool Axis::operator!=(const Axis& other) const
 {

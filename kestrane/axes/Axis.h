@@ -32,7 +32,10 @@ namespace chart {
 ///  4. A gesture with a base gives the same result however many intermediate calls were made, as
 ///     long as no limit stops one of them.
 ///
-/// Nothing here throws or validates: bad numbers travel on as numbers.
+/// Nothing here throws or validates by itself: bad numbers travel on as numbers. Where memory for
+/// ticks, a state or a clone is short, that call throws std::bad_alloc and the axis stays as it is;
+/// setters and gestures take no memory. What a listener throws comes out of the call that emitted
+/// the signal, when the change is complete and the signals behind it have been emitted.
 ///
 /// Threads: an axis has no lock and emits its signals from the calling thread. The const
 /// operations only read; majorTicks() and minorTicks() may rebuild a cache, so that an axis that
