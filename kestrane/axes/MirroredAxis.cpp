@@ -35,11 +35,13 @@ double MirroredAxis::maxValue() const
 
 QVector<Axis::Tick> MirroredAxis::majorTicks()
 {
+    updateTicks();
     return m_majorTicks;
 }
 
 QVector<Axis::Tick> MirroredAxis::minorTicks()
 {
+    updateTicks();
     return m_minorTicks;
 }
 
@@ -75,11 +77,15 @@ boost::shared_ptr<const Axis::ScrollScaleState> MirroredAxis::scrollScaleState()
 
 MirroredAxis* MirroredAxis::clone() const
 {
+    std::unique_ptr<MirroredAxis>
+        mirror; // Outlives a source that finds no room among its children.
     std::unique_ptr<Axis> source(m_source ? m_source->clone() : nullptr);
-    auto* mirror = new MirroredAxis(source.get());
-    if (source)
-        source.release()->setParent(mirror);
-    return mirror;
+    mirror = std::make_unique<MirroredAxis>(source.get());
+    if (source) {
+        source->setParent(mirror.get());
+        source.release();
+    }
+    return mirror.release();
 }
 
 bool MirroredAxis::operator==(const Axis& other) const
@@ -112,6 +118,19 @@ void MirroredAxis::onTicksUpdated()
 {
     if (!m_source)
         return;
+    m_ticksStale = true;
+    try {
+        updateTicks();
+    } catch (...) {
+        // Thrown again to whoever asks for the ticks, if there is still cause.
+    }
+    Q_EMIT ticksUpdated();
+}
+
+void MirroredAxis::updateTicks()
+{
+    if (!m_ticksStale || !m_source)
+        return;
     const QVector<Tick> candidates =
         QVector<Tick>{jointTick()} + tickHelper(m_source->majorTicks());
     QVector<Tick> major;
@@ -119,9 +138,9 @@ void MirroredAxis::onTicksUpdated()
         if (major.isEmpty() || !(tick == major.last()))
             major.append(tick);
     }
-    m_majorTicks.swap(major);
     m_minorTicks = tickHelper(m_source->minorTicks());
-    Q_EMIT ticksUpdated();
+    m_majorTicks.swap(major);
+    m_ticksStale = false;
 }
 
 Axis::Tick MirroredAxis::jointTick() const

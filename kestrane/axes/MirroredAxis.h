@@ -25,7 +25,8 @@ namespace chart {
 /// last, and gestures do nothing.
 ///
 /// All operations cost what they cost on the source, except for the ticks, which are kept: they
-/// are rebuilt inside the source's ticksUpdated(), before that signal is emitted here. The
+/// are rebuilt inside the source's ticksUpdated(), before that signal is emitted here, or if that
+/// fails, when somebody asks for them. The
 /// source's other signals are passed on as they come, with minimum and maximum exchanged;
 /// parametersChanged() carries the source and not this axis.
 class KESTRANE_EXPORT MirroredAxis : public Axis
@@ -87,12 +88,14 @@ private Q_SLOTS:
     void onTicksUpdated();
 
 private:
+    void updateTicks();
     static QVector<Tick> tickHelper(const QVector<Tick>& ticks);
     Tick jointTick() const;
 
     QPointer<Axis> m_source;
     QVector<Tick> m_majorTicks;
     QVector<Tick> m_minorTicks;
+    bool m_ticksStale = false;
 };
 
 } // namespace chart
