@@ -42,6 +42,16 @@ AggregateAxis::SubAxisEntry::~SubAxisEntry()
         QObject::disconnect(connection);
 }
 
+void AggregateAxis::SubAxisEntry::replaceBy(SubAxisEntry& other) noexcept
+{
+    axis.swap(other.axis);
+    from = other.from;
+    to = other.to;
+    // Those of the axis that stood here before stay in force: only their handles go.
+    connections.swap(other.connections);
+    other.connections.clear();
+}
+
 double AggregateAxis::SubAxisEntry::toWhole(double position) const
 {
     return (to - from) * position + from;
@@ -62,12 +72,23 @@ AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
 {
     if (!axis)
         return *this;
-    SubAxisEntry& entry = m_subAxes[from];
-    entry.axis = axis;
-    entry.from = from;
-    entry.to = to;
-    m_reverseMap[axis->minValue()] = &entry;
-    connectTo(entry);
+    // What may fail comes first, and is lost with these two.
+    Map<SubAxisEntry> added;
+    Map<SubAxisEntry*> filed;
+    SubAxisEntry& fresh = added[from];
+    fresh.axis = axis;
+    fresh.from = from;
+    fresh.to = to;
+    connectTo(fresh);
+    const double minimum = axis->minValue();
+    filed[minimum] = nullptr;
+
+    m_subAxes.merge(added);
+    SubAxisEntry& entry = m_subAxes.find(from)->second;
+    if (&entry != &fresh)
+        entry.replaceBy(fresh);
+    m_reverseMap.merge(filed);
+    m_reverseMap.find(minimum)->second = &entry;
     detail::inTurn(
         this, [&] { emitLimitsAndParameters(); }, [&] { Q_EMIT ticksUpdated(); });
     return *this;
@@ -75,15 +96,15 @@ AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
 
 void AggregateAxis::connectTo(SubAxisEntry& entry)
 {
-    Axis* const axis = entry.axis;
-    // Those of an axis that stood here before stay in force: only their handles are gone.
-    entry.connections = {
-        connect(axis, &Axis::minValueChanged, this, [this] { Q_EMIT minValueChanged(minValue()); }),
-        connect(axis, &Axis::maxValueChanged, this, [this] { Q_EMIT maxValueChanged(maxValue()); }),
-        connect(axis, &Axis::parametersChanged, this, &AggregateAxis::updateReverseMap),
-        connect(axis, &Axis::ticksUpdated, this, &Axis::ticksUpdated),
-        connect(axis, &Axis::axisChangedViaScalingOrScrolling, this,
-                &Axis::axisChangedViaScalingOrScrolling)};
+    const auto pass = [&](auto signal, auto slot) {
+        entry.connections.push_back(connect(entry.axis.data(), signal, this, slot));
+    };
+    entry.connections.reserve(5); // So that none is made whose handle finds no room.
+    pass(&Axis::minValueChanged, [this] { Q_EMIT minValueChanged(minValue()); });
+    pass(&Axis::maxValueChanged, [this] { Q_EMIT maxValueChanged(maxValue()); });
+    pass(&Axis::parametersChanged, &AggregateAxis::updateReverseMap);
+    pass(&Axis::ticksUpdated, &Axis::ticksUpdated);
+    pass(&Axis::axisChangedViaScalingOrScrolling, &Axis::axisChangedViaScalingOrScrolling);
 }
 
 AggregateAxis& AggregateAxis::removeAxis(Axis* axis)
@@ -205,9 +226,9 @@ AggregateAxis* AggregateAxis::clone() const
     for (const auto& [key, entry] : m_subAxes) {
         if (!entry.axis)
             continue;
-        Axis* const axis = entry.axis->clone();
+        std::unique_ptr<Axis> axis(entry.axis->clone());
         axis->setParent(copy.get());
-        copy->addAxis(axis, entry.from, entry.to);
+        copy->addAxis(axis.release(), entry.from, entry.to);
     }
     return copy.release();
 }
@@ -270,8 +291,10 @@ void AggregateAxis::updateReverseMap(Axis* axis)
                                    [&](const auto& one) { return one.second->axis == axis; });
     if (node != m_reverseMap.end()) {
         SubAxisEntry* const entry = node->second;
-        m_reverseMap.erase(node);
-        m_reverseMap[axis->minValue()] = entry;
+        const double minimum = axis->minValue();
+        auto moved = m_reverseMap.extract(node);
+        moved.key() = minimum;
+        m_reverseMap.insert(std::move(moved)).position->second = entry;
     }
     emitParametersChanged();
 }

@@ -52,6 +52,7 @@ public:
     ///
     /// Emits minValueChanged(), maxValueChanged(), parametersChanged() and ticksUpdated().
     /// @return this axis, for chaining
+    /// @throws std::bad_alloc and what minValue() of @p axis throws, with nothing changed
     AggregateAxis& addAxis(Axis* axis, double from, double to);
 
     /// Takes @p axis out, wherever it stands; null takes out all that were deleted.
@@ -126,6 +127,7 @@ private:
         SubAxisEntry& operator=(const SubAxisEntry&) = delete;
         ~SubAxisEntry();
 
+        void replaceBy(SubAxisEntry& other) noexcept;
         double toWhole(double position) const; // From the sub-axis's space to this axis's.
 
         QPointer<Axis> axis;
