@@ -9,6 +9,7 @@
 #include <QVariant>
 
 #include <cmath>
+#include <new>
 
 namespace pelorin {
 namespace ui {
@@ -29,6 +30,30 @@ TranslationManager& translations()
 {
     return Singleton<TranslationManager>::instance();
 }
+
+// Lets a formatter write distances, and nobody hear of that, for as long as it lives.
+class DistanceMode
+{
+public:
+    explicit DistanceMode(TickFormatter& formatter)
+        : m_formatter(formatter)
+        , m_options(formatter.options())
+    {
+        m_formatter.blockSignals(true);
+        m_formatter.setOptions(m_options | ValueFormatter::AlwaysSign);
+    }
+    DistanceMode(const DistanceMode&) = delete;
+    DistanceMode& operator=(const DistanceMode&) = delete;
+    ~DistanceMode()
+    {
+        m_formatter.setOptions(m_options);
+        m_formatter.blockSignals(false);
+    }
+
+private:
+    TickFormatter& m_formatter;
+    const ValueFormatter::FormatterOptions m_options;
+};
 
 } // namespace
 
@@ -53,25 +78,38 @@ TickFormatter::TickFormatter(QObject* parent)
         this, &ValueFormatter::quantityChanged, this,
         [this](const Quantity& quantity) { Q_EMIT quantityChanged(quantity); },
         Qt::DirectConnection);
-    connect(&translations(), &TranslationManager::localeChanged, this,
-            [this](const QString& name) { setLocale(QLocale(name)); });
+    connect(&translations(), &TranslationManager::localeChanged, this, &TickFormatter::setLanguage);
 }
 
 TickFormatter::~TickFormatter() = default;
 
+void TickFormatter::setLanguage(const QString& name)
+{
+    m_language = name;
+    try {
+        followLanguage();
+    } catch (const std::bad_alloc&) {
+        // Tried again with the next label: the other listeners have to hear of the language too.
+    }
+}
+
+void TickFormatter::followLanguage()
+{
+    if (m_language.isNull())
+        return;
+    const QLocale locale(m_language);
+    m_language = QString();
+    setLocale(locale);
+}
+
 QList<QString> TickFormatter::formatTick(const Axis::Tick& tick, double referenceValue)
 {
+    followLanguage();
     const auto line = [&](double value) {
         if (std::isnan(referenceValue))
             return format(QVariant(value));
-
-        const auto present = options();
-        blockSignals(true);
-        setOptions(present | ValueFormatter::AlwaysSign);
-        const QString text = format(QVariant(value - referenceValue));
-        setOptions(present);
-        blockSignals(false);
-        return text;
+        const DistanceMode mode(*this);
+        return format(QVariant(value - referenceValue));
     };
 
     QList<QString> lines{line(tick.logicalPosition())};

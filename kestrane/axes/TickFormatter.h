@@ -34,6 +34,7 @@ public:
     /// @param referenceValue NaN for absolute labels; otherwise each line shows the signed
     ///        distance from this logical value
     /// Signals are unblocked when a relative label is done, also if they were blocked before.
+    /// @throws std::bad_alloc, with the options as they were
     virtual QList<QString> formatTick(const Axis::Tick& tick, double referenceValue);
 
     /// The name of the present quantity.
@@ -58,7 +59,11 @@ public Q_SLOTS:
     void setSizeTemplate(const QString& sizeTemplate);
 
 private:
+    void setLanguage(const QString& name);
+    void followLanguage();
+
     QString m_sizeTemplate;
+    QString m_language; // Null unless the locale has yet to become this one.
 };
 
 } // namespace chart
