@@ -45,7 +45,8 @@ protected:
     /// them up. O(callbacks), plus the changes that are queued meanwhile.
     ///
     /// @throws boost::bad_function_call for an empty callback, and what a callback throws; either
-    ///         way the callbacks behind it are not called, and the list is free again
+    ///         way the callbacks behind it are not called, and the list is free again;
+    ///         std::bad_alloc ahead of all callbacks
     void fireUpdates() const;
 
 private:

@@ -2,12 +2,17 @@
 
 #include "kestrane/backend/LazyRWMutex.h"
 
-#include <QList>
-
 #include <boost/enable_shared_from_this.hpp>
 #include <boost/make_shared.hpp>
 #include <boost/weak_ptr.hpp>
 #include <tbb/queuing_mutex.h>
+
+#include <algorithm>
+#include <atomic>
+#include <list>
+#include <memory>
+#include <mutex>
+#include <utility>
 
 namespace pelorin {
 namespace utilities {
@@ -32,8 +37,12 @@ private:
 
 } // namespace
 
-// The inside of a list. The list owns it, each queued change keeps it, and a registration takes
-// hold of it while it dies; so whoever is inside its lock keeps it alive.
+// The inside of a list. The list owns it, each action in the lock keeps it, and a registration
+// takes hold of it while it dies; so whoever is inside its lock keeps it alive.
+//
+// add() takes all the memory that a registration will ever need, as nodes of lists; from then on
+// these only move. What may still be missing is memory for the action that carries out a removal:
+// then the removal waits in the queue for the next action, and a pass sees to it that there is one.
 template<typename T>
 class RegistryList<T>::Soul : public boost::enable_shared_from_this<Soul>
 {
@@ -42,26 +51,36 @@ public:
     virtual ~Soul();
 
     virtual Registration add(const T& item);
-    void remove(const boost::shared_ptr<T>& item);
     void visit(const boost::function<void(const T&)>& visitor);
     void disown();
 
-private:
+    using Items = std::list<boost::shared_ptr<T>>;
     struct Change
     {
-        bool added;
+        bool isAddition;
         boost::shared_ptr<T> item;
+        Items place; // Of an addition, until it is carried out.
     };
+    using Changes = std::list<Change>;
 
-    // All of these run with no reader in the lock.
-    void carryOutAdding(const boost::shared_ptr<T>& item);
-    void carryOutRemoval(const boost::shared_ptr<T>& item);
+    void remove(Changes& removal) noexcept; // One of them.
+
+private:
+    void queue(Changes& change) noexcept;
+    bool takeBack(const boost::shared_ptr<T>& added) noexcept;
+    void pushAction();
+
+    // Both run with no reader in the lock.
+    void carryOutQueued();
     void flushChanges();
 
+    std::mutex m_queueLock; // Held for a moment only.
+    Changes m_queued;       // Guarded by m_queueLock.
+    std::atomic<bool> m_isActionMissing{false};
+
     // Guarded by m_lock. An item is known by its address.
-    QList<boost::shared_ptr<T>> m_items;
-    QList<boost::shared_ptr<T>> m_removedItems; // Not yet reported,
-    QList<Change> m_pendingChanges;             // and likewise.
+    Items m_items;
+    Changes m_pendingChanges; // Carried out and not yet reported.
     LazyRWMutex m_lock;
 
     Registry<T>* m_owner; // Null once the list has gone. Guarded by m_ownerLock, as is its use.
@@ -74,11 +93,15 @@ class RegistryList<T>::RegistrationImpl : public Registration::Impl
 public:
     ~RegistrationImpl() override;
 
-    void hold(const boost::shared_ptr<Soul>& soul, const boost::shared_ptr<T>& item) noexcept;
+    explicit RegistrationImpl(const boost::shared_ptr<T>& item)
+        : m_removal{{false, item, {}}}
+    {}
+
+    void hold(const boost::shared_ptr<Soul>& soul) noexcept { m_soul = soul; }
 
 private:
     boost::weak_ptr<Soul> m_soul;
-    boost::shared_ptr<T> m_item;
+    typename Soul::Changes m_removal;
 };
 
 template<typename T>
@@ -93,27 +116,64 @@ RegistryList<T>::Soul::~Soul() = default;
 template<typename T>
 Registration RegistryList<T>::Soul::add(const T& item)
 {
-    const auto self = this->shared_from_this();
     const auto shared = boost::make_shared<T>(item);
-    auto impl = std::make_unique<RegistrationImpl>();
-    m_lock.pushWriterAction([self, shared] { self->carryOutAdding(shared); });
+    auto impl = std::make_unique<RegistrationImpl>(shared);
+    Changes adding{{true, shared, {shared}}};
+    queue(adding);
+    try {
+        pushAction();
+    } catch (...) {
+        if (takeBack(shared)) // Unless another action has carried it out.
+            throw;
+    }
     // Last of all, so that an exception from above leaves nothing to be removed.
-    impl->hold(self, shared);
+    impl->hold(this->shared_from_this());
     return Registration(std::move(impl));
 }
 
 template<typename T>
-void RegistryList<T>::Soul::remove(const boost::shared_ptr<T>& item)
+void RegistryList<T>::Soul::remove(Changes& removal) noexcept
 {
-    const auto self = this->shared_from_this();
-    m_lock.pushWriterAction([self, item] { self->carryOutRemoval(item); });
+    queue(removal);
+    try {
+        pushAction();
+    } catch (...) {
+        m_isActionMissing = true;
+    }
+}
+
+template<typename T>
+void RegistryList<T>::Soul::queue(Changes& change) noexcept
+{
+    const std::lock_guard<std::mutex> guard(m_queueLock);
+    m_queued.splice(m_queued.end(), change);
+}
+
+template<typename T>
+bool RegistryList<T>::Soul::takeBack(const boost::shared_ptr<T>& added) noexcept
+{
+    Changes taken; // Goes after the guard, since foreign code may go with it.
+    const std::lock_guard<std::mutex> guard(m_queueLock);
+    const auto found = std::find_if(m_queued.begin(), m_queued.end(),
+                                    [&](const Change& change) { return change.item == added; });
+    if (found != m_queued.end())
+        taken.splice(taken.end(), m_queued, found);
+    return !taken.empty();
+}
+
+template<typename T>
+void RegistryList<T>::Soul::pushAction()
+{
+    m_lock.pushWriterAction([self = this->shared_from_this()] { self->carryOutQueued(); });
 }
 
 template<typename T>
 void RegistryList<T>::Soul::visit(const boost::function<void(const T&)>& visitor)
 {
+    if (m_isActionMissing)
+        pushAction();
     const ReadHold hold(m_lock);
-    for (const boost::shared_ptr<T>& item : qAsConst(m_items))
+    for (const boost::shared_ptr<T>& item : m_items)
         visitor(*item);
 }
 
@@ -125,18 +185,21 @@ void RegistryList<T>::Soul::disown()
 }
 
 template<typename T>
-void RegistryList<T>::Soul::carryOutAdding(const boost::shared_ptr<T>& item)
+void RegistryList<T>::Soul::carryOutQueued()
 {
-    m_items.append(item);
-    m_pendingChanges.append({true, item});
-}
-
-template<typename T>
-void RegistryList<T>::Soul::carryOutRemoval(const boost::shared_ptr<T>& item)
-{
-    m_removedItems.append(item);
-    m_items.removeAll(item);
-    m_pendingChanges.append({false, item});
+    Changes changes;
+    {
+        const std::lock_guard<std::mutex> guard(m_queueLock);
+        changes.swap(m_queued);
+        m_isActionMissing = false;
+    }
+    for (Change& change : changes) {
+        if (change.isAddition)
+            m_items.splice(m_items.end(), change.place);
+        else
+            m_items.remove(change.item);
+    }
+    m_pendingChanges.splice(m_pendingChanges.end(), changes);
 }
 
 // Dropped items die here if nobody else holds them, behind all reports and before the guard. Where
@@ -147,30 +210,21 @@ void RegistryList<T>::Soul::flushChanges()
     const tbb::queuing_mutex::scoped_lock guard(m_ownerLock);
     if (!m_owner)
         return;
-    const QList<Change> changes = m_pendingChanges;
-    for (const Change& change : changes) {
-        if (change.added)
+    for (const Change& change : m_pendingChanges) {
+        if (change.isAddition)
             m_owner->itemAdded(*change.item);
         else
             m_owner->itemRemoved(*change.item);
     }
     m_pendingChanges.clear();
-    m_removedItems.clear();
 }
 
 template<typename T>
 RegistryList<T>::RegistrationImpl::~RegistrationImpl()
 {
+    const boost::shared_ptr<T> item = m_removal.front().item; // Goes last of all.
     if (const auto soul = m_soul.lock())
-        soul->remove(m_item);
-}
-
-template<typename T>
-void RegistryList<T>::RegistrationImpl::hold(const boost::shared_ptr<Soul>& soul,
-                                             const boost::shared_ptr<T>& item) noexcept
-{
-    m_soul = soul;
-    m_item = item;
+        soul->remove(m_removal);
 }
 
 template<typename T>

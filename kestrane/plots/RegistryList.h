@@ -40,8 +40,9 @@ namespace utilities {
 /// A thread in a callback, a hook or such a destructor must not wait for another one that begins a
 /// pass.
 ///
-/// add() costs O(1), the end of a registration O(callbacks). That end takes a little memory; if
-/// there is none the program terminates, rather than that a dropped callback is called for ever.
+/// add() costs O(1), the end of a registration O(callbacks). Where there is no memory for that end,
+/// it is made up for with the next change or ahead of the next pass: law 1 holds all the same, but
+/// the callback and its report go only then.
 ///
 /// Instantiated for the callbacks of ui::chart::Intersectable.
 template<typename T>
@@ -66,7 +67,7 @@ protected:
     void itemRemoved(const T& item) override;
 
     /// One pass over the list: hands the items to @p visitor, oldest first. Visits may be nested.
-    /// What @p visitor throws ends the pass.
+    /// What @p visitor throws ends the pass. Throws std::bad_alloc ahead of it.
     void visit(const boost::function<void(const T&)>& visitor) const;
 
     /// Ends the calls of the hooks, after waiting for those that are running. The destructor of a
