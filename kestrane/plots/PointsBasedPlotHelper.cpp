@@ -22,7 +22,14 @@ void PointsBasedPlotHelper::flushMinMax(double x, algo::MinMaxAverageAlgorithm& 
 
     const detail::ColumnValues values{minMax.first(), minMax.minVal(), minMax.maxVal(),
                                       minMax.last(), false};
-    values.appendTo(points, x);
+    const int size = points.size();
+    try {
+        values.appendTo(points, x);
+    } catch (...) {
+        if (points.size() > size) // All of the points or none.
+            points.resize(size);
+        throw;
+    }
     minMax.reset();
 }
 

@@ -30,6 +30,7 @@ public:
     /// @param x axis position of the column
     /// @param minMax positions on the y axis; empty afterwards. If it is empty, nothing happens.
     /// @param points where to append
+    /// @throws std::bad_alloc, with nothing changed
     void flushMinMax(double x, algo::MinMaxAverageAlgorithm& minMax, QVector<QPointF>& points);
 };
 
