@@ -12,6 +12,8 @@ namespace ui {
 
 ColorMap::Builder::Builder(ColorMap& map)
     : m_map(&map)
+    , m_oldColors(map.m_colors)
+    , m_oldThresholds(map.m_thresholds)
 {}
 
 ColorMap::Builder::Builder(ColorMap& map, QColor color, std::size_t threshold)
@@ -22,6 +24,8 @@ ColorMap::Builder::Builder(ColorMap& map, QColor color, std::size_t threshold)
 
 ColorMap::Builder::Builder(Builder&& other) noexcept
     : m_map(std::exchange(other.m_map, nullptr))
+    , m_oldColors(std::move(other.m_oldColors))
+    , m_oldThresholds(std::move(other.m_oldThresholds))
 {}
 
 ColorMap::Builder::~Builder() noexcept(false)
@@ -31,6 +35,8 @@ ColorMap::Builder::~Builder() noexcept(false)
     try {
         m_map->rebuildLookupTable();
     } catch (...) {
+        m_map->m_colors.swap(m_oldColors);
+        m_map->m_thresholds.swap(m_oldThresholds);
         if (std::uncaught_exceptions() == 0) // A second one on its way would end the program.
             throw;
     }

@@ -48,7 +48,7 @@ public:
 
         /// Sorts the map's classes for lookup; O(n log n) for all n of them.
         /// @throws std::bad_alloc if memory is short, unless an exception is on its way already;
-        ///         either way the map looks counts up as before
+        ///         either way the map is as it was before this builder
         ~Builder() noexcept(false);
 
         /// Appends a class; thresholds may come in any order. Amortized O(1).
@@ -64,6 +64,10 @@ public:
         Builder(ColorMap& map, QColor color, std::size_t threshold);
 
         ColorMap* m_map; // Null once moved from.
+
+        // The map's classes before this builder.
+        QVector<QColor> m_oldColors;
+        QVector<std::size_t> m_oldThresholds;
     };
 
     /// A map without classes; by default it draws nothing.

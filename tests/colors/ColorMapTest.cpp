@@ -218,8 +218,7 @@ TEST(ColorMapTest, StaysAsItIsWhenMemoryRunsOut)
     blocksLeft = Plenty;
     EXPECT_EQ(map.mapToColor(10), QColor(Qt::red));
     EXPECT_TRUE(map.isUnmatched(5));
-    map.build();
-    EXPECT_EQ(map.mapToColor(5), QColor(Qt::blue));
+    EXPECT_EQ(thresholds(map), (Thresholds{10}));
 }
 
 TEST(ColorMapTest, TravelsInAVariant)
