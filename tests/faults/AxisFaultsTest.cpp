@@ -57,6 +57,14 @@ struct Axes
     AggregateAxis whole;
 };
 
+/// An axis that nobody has laid hands on yet.
+struct Alone
+{
+    std::string read() { return Bits::of(&axis); }
+
+    LinearAxis axis;
+};
+
 template<typename Kind>
 void appendAxisRows(Operations& rows, const std::string& kind)
 {
@@ -142,6 +150,7 @@ TEST(AxisFaults, AreSurvivedByAxes)
     appendAxisRows<HostAxis>(rows, "a host's axis");
     rows.push_back(row<Axes<LogAxis>>("setSmallest", [](auto& all) { all.axis.setSmallest(0.2); }));
     rows.push_back(row<Axes<LogAxis>>("setLargest", [](auto& all) { all.axis.setLargest(70.0); }));
+    rows.push_back(row<Alone>("setScale of an axis alone", [](Alone& a) { a.axis.setScale(2.0); }));
     rows.push_back(row<Axes<HostAxis>>("updateRanking", [](auto& all) {
         QVector<Axis::Tick> ticks = all.axis.majorTicks();
         all.axis.rank(ticks);
@@ -160,8 +169,10 @@ TEST(AxisFaults, AreSurvivedByLabels)
         row<Labels>("formatTick of a distance", label(12.0)),
         row<Labels>("setQuantity", [](Labels& l) { l.formatter->setQuantity("pressure"); }),
         row<Labels>("setSizeTemplate", [](Labels& l) { l.formatter->setSizeTemplate("wide"); }),
-        row<Labels>("setOptions", [](Labels& l) { l.formatter->setOptions(ValueFormatter::NoUnit); }),
-        row<Labels>("setLocale of a label", [](Labels& l) { l.formatter->setLocale(QLocale("de")); }),
+        row<Labels>("setOptions",
+                    [](Labels& l) { l.formatter->setOptions(ValueFormatter::NoUnit); }),
+        row<Labels>("setLocale of a label",
+                    [](Labels& l) { l.formatter->setLocale(QLocale("de")); }),
         row<Labels>("setLocale", [](Labels& l) { l.language().setLocale("de_DE"); }),
         row<Labels>("TickFormatter", [](Labels&) { return TickFormatter().quantity(); }),
         row<Labels>("quantity", [](Labels& l) { return l.quantities().quantity("none"); }),

@@ -69,13 +69,13 @@ private:
         put(map.colors());
         for (int i = 0; i < map.numberOfClasses(); ++i)
             put(double(map.thresholdAtIndex(i)));
-        for (const std::size_t count : {0, 1, 3, 10, 50, 1000})
+        for (const unsigned count : {0u, 1u, 3u, 10u, 50u, 1000u})
             put(map.mapToColor(count));
     }
     void put(Axis* axis)
     {
-        putAll(axis->minValue(), axis->maxValue(), axis->anchor(),
-               axis->smallestTickDistance(true), axis->majorTicks(), axis->minorTicks());
+        putAll(axis->minValue(), axis->maxValue(), axis->anchor(), axis->smallestTickDistance(true),
+               axis->majorTicks(), axis->minorTicks());
         for (const double place : {-0.5, 0.0, 0.3, 0.7, 1.0}) {
             const double value = axis->inverseTransform(Axis::Linear, place);
             putAll(value, axis->transform(Axis::Linear, value));

@@ -166,8 +166,8 @@ QMetaObject::Connection QObject::connectImpl(const QObject* sender, void** signa
         dlsym(RTLD_NEXT, "_ZN7QObject11connectImplEPKS_PPvS1_S3_PN9QtPrivate15QSlotObjectBaseEN2Qt1"
                          "4ConnectionTypeEPKiPK11QMetaObject"));
     const bool wasArmed = std::exchange(tests::armed, false);
-    const auto connection = qtsOwn(sender, signal, receiver, slot, slotObject, type, types,
-                                   senderMetaObject);
+    const auto connection =
+        qtsOwn(sender, signal, receiver, slot, slotObject, type, types, senderMetaObject);
     tests::armed = wasArmed;
     return connection;
 }

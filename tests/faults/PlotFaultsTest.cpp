@@ -26,16 +26,21 @@ namespace {
 
 constexpr double columnWidth = 1.0 / 16;
 
-/// Three segments: noise, a parabola, whose spline needs memory for all its coefficients, and few.
 PlotSnapshot measured(double factor)
 {
-    std::vector<double> noise(700), parabola(600);
+    std::vector<double> noise(300);
     for (std::size_t i = 0; i < noise.size(); ++i)
         noise[i] = 2.0 + factor * std::sin(double(i * i));
-    for (std::size_t i = 0; i < parabola.size(); ++i)
-        parabola[i] = 1.0 + double(i * i) * 1e-5 * factor;
-    return snapshot({segment(noise, 1.0, 0.005), segment(parabola, 5.0, 0.005),
-                     segment({1.0, 4.0, 2.0}, 8.5, 0.25)});
+    return snapshot({segment(noise, 1.0, 0.01), segment({1.0, 4.0, 2.0}, 6.5, 0.25)});
+}
+
+/// Its spline needs memory for all of its coefficients, when it is first asked.
+pelorin::backend::PlotSegment parabola()
+{
+    std::vector<double> samples(3000);
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        samples[i] = double(i * i);
+    return segment(samples);
 }
 
 /// A plot of each kind, on axes of one kind, holding data.
@@ -52,7 +57,7 @@ struct Plots
     auto lines() { return samples.createSegments(x, y, columnWidth, 0.5); }
     auto pairs() { return points.createSegments(x, y, columnWidth, 0.5); }
     auto sticks() { return needles.createNeedles(x.data(), y.data(), columnWidth); }
-    auto crossings() { return samples.doIntersect(x.data(), y.data(), 0.65); }
+    auto crossings() { return samples.doIntersect(x.data(), y.data(), 0.35); }
 
     std::string read() { return Bits::of(lines(), crossings(), pairs(), sticks()); }
 
@@ -70,13 +75,17 @@ void walkPlots(const std::string& kind)
     using All = Plots<Kind>;
     const std::string on = " on " + kind;
     walk({
-        row<All>("createSegments" + on, [](All& all) { return all.lines(); }, Answer::Partial),
+        row<All>(
+            "createSegments" + on, [](All& all) { return all.lines(); }, Answer::Partial),
         row<All>("createSegments of x/y" + on, [](All& all) { return all.pairs(); }),
-        row<All>("createNeedles" + on, [](All& all) { return all.sticks(); }, Answer::Partial),
+        row<All>(
+            "createNeedles" + on, [](All& all) { return all.sticks(); }, Answer::Partial),
         row<All>("doIntersect" + on, [](All& all) { return all.crossings(); }),
         row<All>("setSnapshot" + on, [](All& all) { all.samples.setSnapshot(all.next); }),
-        row<All>("setSnapshot of x/y" + on, [](All& all) { all.points.setSnapshot(all.next, all.next); }),
-        row<All>("setSnapshot of needles" + on, [](All& all) { all.needles.setSnapshot(all.next); }),
+        row<All>("setSnapshot of x/y" + on,
+                 [](All& all) { all.points.setSnapshot(all.next, all.next); }),
+        row<All>("setSnapshot of needles" + on,
+                 [](All& all) { all.needles.setSnapshot(all.next); }),
     });
 }
 
@@ -93,14 +102,11 @@ struct Parts
         line.append(QPointF(0.0, 0.0));
     }
 
-    double valueAt(double index) { return spline[index]; }
-    std::string read()
-    {
-        return Bits::of(valueAt(1.5), valueAt(300.25), line, double(column.count()));
-    }
+    double value() { return spline[1500.5]; }
+    std::string read() { return Bits::of(value(), line, double(column.count())); }
 
-    PlotSnapshot data = measured(1.0);
-    Spline spline{data.segments[1].begin, data.segments[1].count};
+    pelorin::backend::PlotSegment data = parabola();
+    Spline spline{data.begin, data.count};
     MinMaxAverageAlgorithm column;
     QVector<QPointF> line;
 };
@@ -200,10 +206,12 @@ TEST(PlotFaults, AreSurvivedByPartsOfPlots)
     walk({
         row<Parts>("SplineAlgorithm", [](Parts& p) { return Parts::Spline(p.spline)[200.5]; }),
         row<Parts>("tail", [](Parts& p) { return (*p.spline.tail(50))[200.5]; }),
-        row<Parts>("operator[]", [](Parts& p) { return p.valueAt(200.5); }),
+        row<Parts>("operator[]", [](Parts& p) { return p.value(); }),
         row<Parts>("operator=", [](Parts& p) { p.spline = Parts::Spline(p.spline); }),
-        row<Parts>("PlotSnapshot", [](Parts& p) { return double(PlotSnapshot(p.data).segments.size()); }),
-        row<Parts>("flushMinMax", [](Parts& p) { PointsBasedPlotHelper().flushMinMax(0.5, p.column, p.line); }),
+        row<Parts>("PlotSnapshot",
+                   [](Parts& p) { return double(PlotSnapshot({p.data}).segments.size()); }),
+        row<Parts>("flushMinMax",
+                   [](Parts& p) { PointsBasedPlotHelper().flushMinMax(0.5, p.column, p.line); }),
     });
 }
 
@@ -213,9 +221,13 @@ TEST(PlotFaults, AreSurvivedByListsOfCallbacks)
         row<Callbacks>("add", [](Callbacks& all) { all.add("d"); }),
         row<Callbacks>("~Registration", [](Callbacks& all) { all.drop(); }),
         row<Callbacks>("fireUpdates", [](Callbacks& all) { all.fire(); }),
-        row<Callbacks>("~Registration in a pass", [](Callbacks& all) {
-            all.hooked.visit([&](const auto&) { if (all.kept.size() > 1) all.drop(); });
-        }),
+        row<Callbacks>("~Registration in a pass",
+                       [](Callbacks& all) {
+                           all.hooked.visit([&](const auto&) {
+                               if (all.kept.size() > 1)
+                                   all.drop();
+                           });
+                       }),
         row<Callbacks>("RegistryList", [](Callbacks&) { return Callbacks().read(); }),
         row<Lock>("pushWriterAction", [](Lock& all) { all.push(); }),
         row<Lock>("lockForRead", [](Lock& all) { all.readAndPush(); }),

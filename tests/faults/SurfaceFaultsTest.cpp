@@ -111,10 +111,9 @@ TEST(SurfaceFaults, AreSurvivedByColors)
         row<Colors>("build", twoMore),
         row<Colors>("ColorMap", [](Colors& c) { return ColorMap(c.map, 1.5); }),
         row<Colors>("operator=", [](Colors& c) { c.map = ColorMap(c.map, 1.5); }),
-        row<Colors>("buildAutoComputeMap",
-                    [](Colors& c) {
-                        return AutoComputeColorMapBuilder::buildAutoComputeMap(c.map, 100);
-                    }),
+        row<Colors>(
+            "buildAutoComputeMap",
+            [](Colors& c) { return AutoComputeColorMapBuilder::buildAutoComputeMap(c.map, 100); }),
     });
 }
 

@@ -14,7 +14,7 @@ namespace tests {
 
 namespace {
 
-constexpr unsigned secondsToHang = 20;
+constexpr unsigned secondsToHang = 10;
 constexpr Fault faults[] = {Fault::Memory, Fault::MemoryFromThenOn, Fault::HostCode};
 constexpr const char* faultNames[] = {"memory once", "memory from then on", "the host's code"};
 
