@@ -24,6 +24,9 @@ if(KESTRANE_SANITIZE)
   target_compile_options(kestrane_compiler_flags INTERFACE ${sanitize} -fno-omit-frame-pointer)
   target_link_options(kestrane_compiler_flags INTERFACE ${sanitize})
 endif()
+if(KESTRANE_BUILD_FUZZERS)
+  target_compile_options(kestrane_compiler_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 function(kestrane_compiler_flags target)
   # BUILD_INTERFACE keeps these flags out of the exported targets.

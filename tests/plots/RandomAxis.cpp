@@ -5,8 +5,6 @@
 #include "kestrane/axes/LogAxis.h"
 #include "kestrane/axes/MirroredAxis.h"
 
-#include "tests/support/Numbers.h"
-
 #include <cmath>
 #include <stdexcept>
 

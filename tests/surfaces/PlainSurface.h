@@ -26,6 +26,7 @@ class PlainSurface
 {
 public:
     using Histo = pelorin::ui::chart::Histogram2DPlotAlgorithm::HistoSegment;
+    using Edge = pelorin::ui::chart::GeometryBasedPlotAlgorithm::Geometry;
     using Needle = std::vector<pelorin::ui::chart::NeedlePlot2DAlgorithm::ColoredPoint>;
 
     template<typename T>
@@ -35,11 +36,14 @@ public:
     std::vector<Needle> needles(const Grids<double>& grids, const SurfaceRequest& request,
                                 const QColor& start, const QColor& end);
 
+    /// Leaves the edges of a dimension's cells; the first of @p edges stays where nothing has a
+    /// position.
+    static void cut(std::vector<Edge>& edges, const MetaInfo& metaInfo, long long limit,
+                    const pelorin::ui::chart::Axis& axis, double pixelSize);
+
     void clear() { m_cells.clear(); }
 
 private:
-    using Edge = pelorin::ui::chart::GeometryBasedPlotAlgorithm::Geometry;
-
     struct Cells
     {
         std::vector<Edge> x{{0.0, 0}}, y{{0.0, 0}}; // The first one included.
@@ -48,8 +52,6 @@ private:
         Indices shape{0, 0};
     };
 
-    static void cut(std::vector<Edge>& edges, const MetaInfo& metaInfo, long long limit,
-                    const pelorin::ui::chart::Axis& axis, double pixelSize);
     template<typename T>
     static bool update(Cells& cells, const Grid<T>& grid, const SurfaceRequest& request);
 

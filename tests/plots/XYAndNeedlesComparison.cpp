@@ -4,14 +4,11 @@
 
 #include "tests/plots/RandomAxis.h"
 #include "tests/support/Builders.h"
-#include "tests/support/Numbers.h"
-#include "tests/support/Seeds.h"
+#include "tests/support/Comparisons.h"
 
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <set>
-#include <string>
 
 using namespace pelorin::backend;
 using namespace pelorin::ui::chart;
@@ -30,6 +27,8 @@ Lists plainXY(const PlotSnapshot& xData, const PlotSnapshot& yData, const Axis& 
               const Axis& yAxis, double columnWidth, double symbolSpacing)
 {
     Lists lists;
+    if (columnWidth == 0.0)
+        return lists;
     for (std::size_t i = 0; i < xData.segments.size() && i < yData.segments.size(); ++i) {
         const PlotSegment &xs = xData.segments[i], &ys = yData.segments[i];
         double columnX = -1.0;
@@ -126,6 +125,8 @@ NeedleResult plainNeedles(const PlotSegment& segment, const Axis& xAxis, const A
 NeedleResult plainNeedles(const PlotSnapshot& data, const Axis& xAxis, const Axis& yAxis,
                           double columnWidth)
 {
+    if (columnWidth == 0.0)
+        return NeedleResult();
     for (const PlotSegment& segment : data.segments) {
         try {
             return plainNeedles(segment, xAxis, yAxis, columnWidth);
@@ -149,7 +150,7 @@ std::vector<double> samples(Dice& dice)
     return result;
 }
 
-PlotSnapshot snapshot(Dice& dice)
+PlotSnapshot randomSnapshot(Dice& dice)
 {
     const auto form = [&] { return dice.upTo(4) ? Axis::Linear : Axis::Logarithmic; };
     std::vector<PlotSegment> segments;
@@ -175,51 +176,47 @@ auto unlessItThrows(const Function& function) -> std::optional<decltype(function
     }
 }
 
+double columnWidth(Dice& dice)
+{
+    return dice.upTo(19) ? dice.oneOf({0.125, 0.1, 0.01, dice.between(0.0, 0.5)})
+                         : dice.oneOf({NaN, Infinity, 2.0});
+}
+
 } // namespace
 
-TEST(XYAndNeedlesDifferentialTest, AgreeWithThePlainRulesBitForBit)
+void tests::compareXYPlots(Dice& dice, Seen& seen)
 {
-    int lines = 0, symbols = 0, needles = 0, throws = 0;
-    std::set<std::pair<std::string, std::string>> kinds;
-    const Seeds seeds(4000);
-    for (unsigned seed = seeds.first; seed < seeds.end; ++seed) {
-        SCOPED_TRACE(testing::Message() << "seed " << seed);
-        Dice dice(seed);
-        const auto xAxis = randomAxis(dice), yAxis = randomAxis(dice);
-        const double width = dice.upTo(19) ? dice.oneOf({0.125, 0.1, 0.01, dice.between(0.0, 0.5)})
-                                           : dice.oneOf({NaN, Infinity, 2.0});
-        const double spacing = dice.oneOf({0.5, 0.0, 1.0, -1.0, NaN});
-        const PlotSnapshot x = snapshot(dice), y = snapshot(dice);
+    const auto xAxis = randomAxis(dice), yAxis = randomAxis(dice);
+    const double width = columnWidth(dice), spacing = dice.oneOf({0.5, 0.0, 1.0, -1.0, NaN});
+    const PlotSnapshot x = randomSnapshot(dice), y = randomSnapshot(dice);
+    XYPlotAlgorithm plot;
+    plot.setSnapshot(x, y);
+    const auto actual =
+        unlessItThrows([&] { return plot.createSegments(xAxis, yAxis, width, spacing); });
+    const auto expected =
+        unlessItThrows([&] { return plainXY(x, y, *xAxis, *yAxis, width, spacing); });
+    ASSERT_EQ(actual.has_value(), expected.has_value());
+    seen.add(*xAxis, *yAxis);
+    seen.of["throws"] += !expected;
+    if (!expected)
+        return;
+    ASSERT_TRUE(same(exact(actual->first), expected->lines));
+    ASSERT_TRUE(same(exact(actual->second), expected->symbols));
+    seen.of["lines"] += expected->lines.size();
+    seen.of["symbols"] += expected->symbols.size();
+}
 
-        XYPlotAlgorithm plot;
-        plot.setSnapshot(x, y);
-        const auto actual =
-            unlessItThrows([&] { return plot.createSegments(xAxis, yAxis, width, spacing); });
-        const auto expected =
-            unlessItThrows([&] { return plainXY(x, y, *xAxis, *yAxis, width, spacing); });
-        ASSERT_EQ(actual.has_value(), expected.has_value());
-        if (expected) {
-            ASSERT_TRUE(same(exact(actual->first), expected->lines));
-            ASSERT_TRUE(same(exact(actual->second), expected->symbols));
-            lines += actual->first.size();
-            symbols += actual->second.size();
-        }
-        throws += !expected;
-
-        NeedlePlotAlgorithm stick;
-        stick.setSnapshot(x);
-        const double signedWidth = dice.upTo(9) ? width : -width;
-        const auto result = stick.createNeedles(xAxis.get(), yAxis.get(), signedWidth);
-        const auto plain = plainNeedles(x, *xAxis, *yAxis, signedWidth);
-        ASSERT_TRUE(same(result.firstPosition, plain.firstPosition));
-        ASSERT_TRUE(same(result.lastPosition, plain.lastPosition));
-        ASSERT_TRUE(same(result.values, plain.values));
-        needles += int(result.values.size());
-        kinds.emplace(xAxis->metaObject()->className(), yAxis->metaObject()->className());
-    }
-    EXPECT_GT(lines, 2000);
-    EXPECT_GT(symbols, 2000);
-    EXPECT_GT(needles, 10000);
-    EXPECT_GT(throws, 5);
-    EXPECT_EQ(kinds.size(), 16u); // Every pair of linear, logarithmic, mirrored and aggregate.
+void tests::compareNeedles(Dice& dice, Seen& seen)
+{
+    const auto xAxis = randomAxis(dice), yAxis = randomAxis(dice);
+    const double width = columnWidth(dice) * (dice.upTo(9) ? 1.0 : -1.0);
+    const PlotSnapshot data = randomSnapshot(dice);
+    NeedlePlotAlgorithm plot;
+    plot.setSnapshot(data);
+    const auto actual = plot.createNeedles(xAxis.get(), yAxis.get(), width);
+    const auto expected = plainNeedles(data, *xAxis, *yAxis, width);
+    ASSERT_TRUE(same(actual.firstPosition, expected.firstPosition));
+    ASSERT_TRUE(same(actual.lastPosition, expected.lastPosition));
+    ASSERT_TRUE(same(actual.values, expected.values));
+    seen.of["needles"] += expected.values.size();
 }
