@@ -23,6 +23,9 @@ struct AxisMap;
 /// so that the logical value -shift (offset itself, unless it is added) stands at axis position
 /// anchor. Transforms are O(1); ticks are built on demand, once per change, in O(n).
 ///
+/// Rounding: with an anchor of 0.0, position(v) is within 4 ulp of itself. On the axis, value(p) is
+/// within 4 ulp of the larger of offset and full range, and so gives p again within twice that.
+///
 /// Every change emits, in this order: the signal of the parameter, minValueChanged() and
 /// maxValueChanged() if they moved, ticksUpdated(), parametersChanged(), and after a gesture
 /// axisChangedViaScalingOrScrolling().

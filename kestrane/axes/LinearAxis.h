@@ -12,7 +12,8 @@ namespace chart {
 /// along as the axis scrolls. All else is that of FixedPositionLinearAxis.
 ///
 /// Major ticks stand at 0.0 <= position <= 1.0, minor ticks at 0.0 <= position < 1.0, both without
-/// a tolerance. While one of the two numbers of divisions is 0 the lists stay what they were.
+/// a tolerance; the values of major ones are within 4 ulp of the larger of offset and full range.
+/// While one of the two numbers of divisions is 0 the lists stay what they were.
 /// The scale is taken as it is; LinearPlotAutoScaler suggests a round one.
 class KESTRANE_EXPORT LinearAxis : public FixedPositionLinearAxis
 {

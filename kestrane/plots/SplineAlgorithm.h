@@ -44,6 +44,8 @@ class SplineCurvature;
 /// Three or more samples of which one isn't finite, or whose doubles or second differences
 /// overflow, give NaN everywhere.
 ///
+/// Rounding: a value is within 16 ulp of the largest sample of what the two passes give exactly.
+///
 /// Set-up is one pass that finds the extremes of the samples by blocks, and keeps 2 % of their
 /// memory. A query is O(1), cheapest within the interval of the last one and then beside it: the
 /// coefficients are found from the samples around it, exactly as the two passes give them. Only
