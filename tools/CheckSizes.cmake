@@ -4,6 +4,7 @@ set(limit 500)
 file(GLOB_RECURSE files RELATIVE "${ROOT}"
   "${ROOT}/kestrane/*" "${ROOT}/ombrel/*" "${ROOT}/hosts/*" "${ROOT}/tests/*"
   "${ROOT}/benchmarks/*" "${ROOT}/tools/*")
+list(FILTER files EXCLUDE REGEX "^tests/fuzz/corpus/")
 if(NOT files)
   message(FATAL_ERROR "No files below '${ROOT}'")
 endif()
