@@ -14,6 +14,9 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
+// A table is made for each request, so that it may take no longer than few cells do.
+constexpr double mostTabulatedCounts = 2048.0;
+
 // The smallest double whose whole part reaches a threshold. 0 is no count of any class.
 double smallestCount(std::size_t threshold)
 {
@@ -39,15 +42,25 @@ ColorLookup::ColorLookup(const ColorMap& map)
     m_colors.insert(m_colors.end(), map.m_sortedColors.begin(), map.m_sortedColors.end());
     for (const std::size_t threshold : map.m_sortedThresholds)
         m_thresholds.push_back(smallestCount(threshold));
-    makeBuckets();
+    if (m_thresholds.empty() || m_thresholds.back() < mostTabulatedCounts)
+        makeTable();
+    else
+        makeBuckets();
+}
+
+void ColorLookup::makeTable()
+{
+    unsigned before = 0;
+    for (const double threshold : m_thresholds)
+        m_classOfCount.resize(static_cast<std::size_t>(threshold), before++);
+    m_classOfCount.push_back(before);
 }
 
 // At most eight buckets for each class, so that even among many of equal width few share one.
 void ColorLookup::makeBuckets()
 {
     const std::size_t classes = m_thresholds.size();
-    const long long first = classes > 0 ? bitsOf(m_thresholds.front()) : 0;
-    const long long last = classes > 0 ? bitsOf(m_thresholds.back()) : 0;
+    const long long first = bitsOf(m_thresholds.front()), last = bitsOf(m_thresholds.back());
     while (static_cast<std::size_t>((last - first) >> m_shift) > 8 * classes)
         ++m_shift;
     m_firstKey = first >> m_shift;
@@ -75,10 +88,20 @@ std::size_t ColorLookup::bucketOf(double count) const
 
 void ColorLookup::classesOf(const double* counts, std::size_t size, unsigned* classes) const
 {
-    if (m_steps == 1) // As a constant, since a loop costs more than one step of it.
+    if (!m_classOfCount.empty())
+        lookUp(counts, size, classes);
+    else if (m_steps == 1) // As a constant, since a loop costs more than one step of it.
         search(std::integral_constant<int, 1>(), counts, size, classes);
     else
         search(m_steps, counts, size, classes);
+}
+
+void ColorLookup::lookUp(const double* counts, std::size_t size, unsigned* __restrict classes) const
+{
+    const unsigned* const classOfCount = m_classOfCount.data();
+    const auto last = static_cast<double>(m_classOfCount.size() - 1);
+    for (std::size_t k = 0; k < size; ++k)
+        classes[k] = classOfCount[static_cast<int>(std::min(counts[k], last))];
 }
 
 template<typename Steps>

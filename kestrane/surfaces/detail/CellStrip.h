@@ -53,9 +53,16 @@ public:
         position.visitRows(size, [this](const T* samples, long long count, long long step) {
             raise(m_line.data(), samples, count, step);
         });
-        for (std::size_t k = 1; k < m_edges.size(); ++k, values += stride)
-            *values = static_cast<double>(
-                largestOf(m_line.data() + m_edges[k - 1], m_line.data() + m_edges[k]));
+        const std::size_t count = m_edges.size() - 1;
+        if (m_widest == 1) { // Nothing to compare: the whole line at a step.
+            for (std::size_t k = 0; k < count; ++k)
+                values[k * stride] = static_cast<double>(m_line[k]);
+            return;
+        }
+        const T* const line = m_line.data();
+        for (std::size_t k = 0; k < count; ++k)
+            values[k * stride] =
+                static_cast<double>(largestOf(line + m_edges[k], line + m_edges[k + 1]));
     }
 
 private:
