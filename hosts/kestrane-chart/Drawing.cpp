@@ -107,15 +107,23 @@ double surfaceScale(const Options& options)
 Drawing Drawing::of(const Recordings& recordings, const Options& options)
 {
     const std::unique_ptr<Plot> plot = Plot::of(recordings, options);
-    const AxisView x(plot->xAxis(), quantityOf(options.x), options.x.reference);
-    const AxisView y(plot->yAxis(x), quantityOf(options.y), options.y.reference);
-    Chart chart = {textsOf(x, y, *plot, options), x, y, {}, {}};
+    const charting::ShownAxis xAxis = plot->xAxis();
+    const AxisView x(xAxis, quantityOf(options.x), options.x.reference);
+    return of(*plot, xAxis, plot->yAxis(x), options);
+}
+
+Drawing Drawing::of(const Plot& plot, const charting::ShownAxis& xAxis,
+                    const charting::ShownAxis& yAxis, const Options& options)
+{
+    const AxisView x(xAxis, quantityOf(options.x), options.x.reference);
+    const AxisView y(yAxis, quantityOf(options.y), options.y.reference);
+    Chart chart = {textsOf(x, y, plot, options), x, y, {}, {}};
     const Look look = options.isDark ? Look::dark() : Look::light();
     const charting::FontMeasure measure(look);
     ChartLayout layout = ChartLayout::of(options.size, chart.texts, measure);
-    chart.curves = plot->curves(x, y, layout.plot.width());
-    chart.surface = plot->surface(x, y, layout.plotPixels(surfaceScale(options)).size());
-    chart.crossings = plot->crossings(x, y);
+    chart.curves = plot.curves(x, y, layout.plot.width());
+    chart.surface = plot.surface(x, y, layout.plotPixels(surfaceScale(options)).size());
+    chart.crossings = plot.crossings(x, y);
     layout.crossings = charting::placeCrossings(chart, layout, measure);
     return {look, chart, layout};
 }

@@ -8,12 +8,18 @@
 
 namespace hosts::chart {
 
+class Plot;
+
 /// A chart of some recordings, with its look and its layout: all that painting needs.
 struct Drawing
 {
     /// @throws UsageError if there are more names than curves
     /// @throws WorkError if there is nothing to draw in the range that @p options ask for
     static Drawing of(const Recordings& recordings, const Options& options);
+
+    /// Of a plot on axes as they are by now.
+    static Drawing of(const Plot& plot, const charting::ShownAxis& xAxis,
+                      const charting::ShownAxis& yAxis, const Options& options);
 
     charting::Look look;
     charting::Chart chart;
