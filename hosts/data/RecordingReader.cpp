@@ -17,6 +17,16 @@ void checkOptions(const QString& path, const ReadOptions& options)
         throw ReadError(path, QStringLiteral("the step has to be a positive, finite number"));
 }
 
+// A step near the end of all numbers leads out of them.
+void checkAbscissas(const QString& path, const std::vector<Series>& all)
+{
+    for (const Series& series : all) {
+        const auto& last = series.snapshot.segments.back();
+        if (!std::isfinite(double(last.count - 1) * last.xInfo.scale + last.xInfo.offset))
+            throw ReadError(path, QStringLiteral("x gets too large for a number"));
+    }
+}
+
 } // namespace
 
 std::vector<Series> readRecording(const QString& path, const ReadOptions& options,
@@ -25,7 +35,10 @@ std::vector<Series> readRecording(const QString& path, const ReadOptions& option
     checkOptions(path, options);
     RecordingFile file(path);
     const Progress report = progress ? progress : [](double) {};
-    return file.isSound() ? readAudio(path, options, report) : readCsv(file, options, report);
+    std::vector<Series> all =
+        file.isSound() ? readAudio(path, options, report) : readCsv(file, options, report);
+    checkAbscissas(path, all);
+    return all;
 }
 
 } // namespace hosts::data

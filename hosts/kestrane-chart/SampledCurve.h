@@ -26,9 +26,10 @@ public:
     charting::Curve curve(const charting::AxisView& x, const charting::AxisView& y,
                           double columnWidth, double symbolSpacing);
 
-    /// The crossings with the vertical line at a value of x, those before the last sample and at it.
-    QList<pelorin::ui::chart::Intersection>
-    crossings(const charting::AxisView& x, const charting::AxisView& y, double position);
+    /// The crossings with the vertical line at a value of x, those before the last sample and at
+    /// it.
+    QList<pelorin::ui::chart::Intersection> crossings(const charting::AxisView& x,
+                                                      const charting::AxisView& y, double position);
 
     /// As the curve was last drawn: joined by straight lines on a logarithmic y axis.
     QList<pelorin::ui::chart::Intersection> doIntersect(const pelorin::ui::chart::Axis* xAxis,

@@ -87,6 +87,7 @@ TEST(CsvReaderTest, StartAndStepPlaceTheRows)
         {timed,     {},  2.0,  "v 10:2[1 2 3 5]"},
         {irregular, {},  2.0,  "v 10:2[1 2] 16:2[3]"},
         {plain,     {},  0.0,  "file: the step has to be a positive, finite number"},
+        {plain,     {},  1e308, "file: x gets too large for a number"},
         {plain, std::numeric_limits<double>::infinity(), {},
                                "file: the start has to be a finite number"},
         // clang-format on
