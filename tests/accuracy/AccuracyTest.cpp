@@ -32,13 +32,14 @@ double error(double actual, const Exact& expected, double unit)
 // From decades around 1.0, of either sign.
 double wide(Dice& dice)
 {
-    return std::pow(10.0, dice.between(-12.0, 12.0)) * (dice.upTo(1) ? 1.0 : -1.0);
+    const double size = std::pow(10.0, dice.between(-12.0, 12.0));
+    return dice.upTo(1) ? size : -size;
 }
 
 struct Linear
 {
     explicit Linear(Dice& dice)
-        : axis(std::fabs(wide(dice)), wide(dice))
+        : axis{std::fabs(wide(dice)), wide(dice)}
         , full(Exact(axis.scale()) * axis.numMajorDivisions())
     {}
 

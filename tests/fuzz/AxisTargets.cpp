@@ -67,7 +67,7 @@ FUZZ_TARGET(LinearAxis)
 
 FUZZ_TARGET(LogAxis)
 {
-    LogAxis axis(dice.number(), dice.number());
+    LogAxis axis{dice.number(), dice.number()};
     for (int i = 0; i < 6; ++i) {
         const double a = dice.number(), b = dice.number(), x = dice.number();
         const auto base = dice.upTo(1) ? axis.scrollScaleState() : nullptr;

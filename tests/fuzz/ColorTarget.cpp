@@ -15,7 +15,8 @@ std::size_t count(Dice& dice)
 {
     const auto any = std::size_t(std::fmin(std::fabs(dice.number()) * 0x1p32, 0x1p63));
     const std::size_t around[] = {0, Most, std::size_t(1) << 53, any};
-    return around[dice.upTo(3)] + std::size_t(dice.upTo(8)) - 4;
+    const std::size_t middle = around[dice.upTo(3)];
+    return middle + std::size_t(dice.upTo(8)) - 4;
 }
 
 // By a search from class to class.

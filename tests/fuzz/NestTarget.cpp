@@ -91,7 +91,7 @@ private:
         m_axes.push_back(kind == 0   ? static_cast<Axis*>(aggregate)
                          : kind == 1 ? new MirroredAxis(source)
                          : kind == 2 ? static_cast<Axis*>(new LogAxis(m_dice.number(), 1e3))
-                                     : new LinearAxis(m_dice.number(), m_dice.number()));
+                                     : new LinearAxis{m_dice.number(), m_dice.number()});
     }
 
     void add()
@@ -142,7 +142,8 @@ private:
         const Axis* const other = any();
         const auto base = other ? other->scrollScaleState() : nullptr;
         const double at = m_dice.between(-0.5, 1.5), by = m_dice.between(-1.0, 1.0);
-        (axis->*move)(at, by, base, m_dice.number(), m_dice.number(), 1e-3);
+        const double bottom = m_dice.number(), top = m_dice.number();
+        (axis->*move)(at, by, base, bottom, top, 1e-3);
     }
 
     Dice& m_dice;

@@ -74,8 +74,8 @@ struct Cells : GeometryBasedPlotAlgorithm
 FUZZ_TARGET(CellGeometry)
 {
     const auto axis = randomAxis(dice);
-    const MetaInfo metaInfo(dice.number(), dice.number(),
-                            dice.upTo(1) ? Axis::Linear : Axis::Logarithmic);
+    const MetaInfo metaInfo{dice.number(), dice.number(),
+                            dice.upTo(1) ? Axis::Linear : Axis::Logarithmic};
     const Grid<double> grid(memory<double>({}), {metaInfo, metaInfo}, Indices{dice.upTo(300), 0});
     const double pixelSize = dice.upTo(2) ? dice.oneOf({0.1, 0.01, 0.125}) : dice.number();
     if (pixelSize == 0.0)

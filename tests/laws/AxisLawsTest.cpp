@@ -191,8 +191,8 @@ LAW(AxisLawsTest, AMirrorOfAMirrorIsWhatItWas)
     MirroredAxis once(specimen.axis.get());
     const MirroredAxis twice(&once);
     const double value = specimen.axis->inverseTransform(Axis::Linear, dice.between(0.0, 1.0));
-    EXPECT_NEAR(twice.transform(Axis::Linear, value),
-                specimen.axis->transform(Axis::Linear, value), 1e-15);
+    EXPECT_NEAR(twice.transform(Axis::Linear, value), specimen.axis->transform(Axis::Linear, value),
+                1e-15);
     EXPECT_EQ(twice.minValue(), specimen.axis->minValue());
 }
 

@@ -23,7 +23,7 @@ struct Drag
 {
     explicit Drag(Dice& dice)
         : gesture(dice.upTo(1) ? &Axis::scaleAxis : &Axis::scrollAxis)
-        , at(dice.between(0.0, 0.999))
+        , at(dice.between(0.01, 0.999)) // No nearer to the start than a pixel.
     {
         by = dice.between(-0.05, 0.05) * (isScaling() ? at : 1.0);
     }
@@ -100,7 +100,8 @@ LAW(GestureLawsTest, AScrollKeepsTheLengthAndAScalingTheStart)
     const Drag drag(dice);
     const double low = measured(axis, axis.minValue()), high = measured(axis, axis.maxValue());
     drag.move(axis, 1.0, nullptr);
-    const double newLow = measured(axis, axis.minValue()), newHigh = measured(axis, axis.maxValue());
+    const double newLow = measured(axis, axis.minValue()),
+                 newHigh = measured(axis, axis.maxValue());
     const double rounding = 1e-13 * (std::fabs(low) + std::fabs(high));
     if (drag.isScaling())
         EXPECT_EQ(newLow, low);
@@ -177,8 +178,8 @@ LAW(GestureLawsTest, AStateOfAnotherKindIsNone)
 
 LAW(GestureLawsTest, ASetterThatChangesNothingSaysNothing)
 {
-    LinearAxis linear(dice.between(0.1, 10.0), dice.between(-10.0, 10.0));
-    LogAxis log(dice.between(0.1, 1.0), dice.between(2.0, 1e3));
+    LinearAxis linear{dice.between(0.1, 10.0), dice.between(-10.0, 10.0)};
+    LogAxis log{dice.between(0.1, 1.0), dice.between(2.0, 1e3)};
     SignalLog linearLog(&linear), logLog(&log);
     linear.setScale(linear.scale());
     linear.setOffset(linear.offset());
@@ -190,7 +191,7 @@ LAW(GestureLawsTest, ASetterThatChangesNothingSaysNothing)
 
 LAW(GestureLawsTest, AnAxisHasTheTicksOfOneThatWasMadeSo)
 {
-    LinearAxis axis(dice.between(0.1, 10.0), dice.between(-10.0, 10.0), 0.0, false, 10, 5);
+    LinearAxis axis{dice.between(0.1, 10.0), dice.between(-10.0, 10.0), 0.0, false, 10, 5};
     axis.majorTicks();
     for (int i = dice.upTo(3); i >= 0; --i)
         Drag(dice).move(axis, 1.0, nullptr);
@@ -202,7 +203,7 @@ LAW(GestureLawsTest, AnAxisHasTheTicksOfOneThatWasMadeSo)
 LAW(GestureLawsTest, TheAutoScalerKeepsDataWhereItHasPutThem)
 {
     const double low = dice.between(-100.0, 100.0), high = low + dice.between(0.01, 100.0);
-    LinearAxis axis(dice.between(0.1, 10.0), dice.between(-10.0, 10.0));
+    LinearAxis axis{dice.between(0.1, 10.0), dice.between(-10.0, 10.0)};
     const auto scaled = [&] {
         const auto suggested = LinearPlotAutoScaler::suggest(
             axis.scale(), axis.offset(), axis.transform(Axis::Linear, low),

@@ -182,9 +182,9 @@ LAW(PlotLawsTest, NoPeakIsLost)
     const auto lines = request.plot({segment(request.samples)}).first;
     if (lines.isEmpty())
         return;
-    const auto [low, high] = std::minmax_element(
-        lines[0].begin(), lines[0].end(),
-        [](const QPointF& a, const QPointF& b) { return a.y() < b.y(); });
+    const auto [low, high] =
+        std::minmax_element(lines[0].begin(), lines[0].end(),
+                            [](const QPointF& a, const QPointF& b) { return a.y() < b.y(); });
     const double width = 1.0 / request.columns;
     const double lastColumn = request.positionOf(request.samples.size() - 1) - width;
     for (std::size_t i = 0; i < request.samples.size(); ++i) {
@@ -200,7 +200,8 @@ LAW(PlotLawsTest, SegmentsAreDrawnAsIfAlone)
 {
     const SampleRequest request(dice);
     const PlotSegment one = segment(request.samples);
-    const PlotSegment other = segment(randomSamples(dice), dice.between(0.0, 50.0));
+    const double offset = dice.between(0.0, 50.0);
+    const PlotSegment other = segment(randomSamples(dice), offset);
     const auto first = request.plot({one}), second = request.plot({other}),
                both = request.plot({one, other});
     expectSame(both.first, first.first + second.first);

@@ -213,8 +213,7 @@ LAW(SurfaceLawsTest, ANeedleStandsOnItsFootAndDescends)
         algorithm.makeNeedles(linearAxis(request.lengths[0]), linearAxis(request.lengths[1]),
                               Qt::black, Qt::white, request.pixels[0], request.pixels[1]);
     const HistoSegment cells = request.plot();
-    EXPECT_EQ(std::size_t(needles.size()),
-              cells.yEdges.size() > 1 ? cells.xEdges.size() - 1 : 0u);
+    EXPECT_EQ(std::size_t(needles.size()), cells.yEdges.size() > 1 ? cells.xEdges.size() - 1 : 0u);
     for (const auto& needle : needles) {
         EXPECT_NE(needle.size(), 1);
         for (int i = 1; i < needle.size(); ++i) {

@@ -42,8 +42,8 @@ private:
 Axis* simpleAxis(Dice& dice)
 {
     if (dice.upTo(4) == 0)
-        return new LogAxis(dice.oneOf({0.01, 0.25, 1.0, 5.0, 0.0, -1.0}),
-                           dice.oneOf({1.0, 3.0, 100.0, 1e4, NaN}));
+        return new LogAxis{dice.oneOf({0.01, 0.25, 1.0, 5.0, 0.0, -1.0}),
+                           dice.oneOf({1.0, 3.0, 100.0, 1e4, NaN})};
     const double scale = dice.upTo(9) ? dice.oneOf({0.1, 0.8, 1.0, dice.between(0.01, 3.0)})
                                       : dice.oneOf({-0.5, 0.0, 1e-300});
     const double offset = dice.oneOf({0.0, 0.0, 0.25, dice.between(-2.0, 5.0)});

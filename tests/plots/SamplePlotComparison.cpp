@@ -81,7 +81,8 @@ PlotSnapshot randomSnapshot(Dice& dice)
         const double step =
             dice.upTo(14) ? dice.oneOf({1.0, 0.25, 4.0, 0.1, 0.003, dice.between(0.01, 2.0), -0.7})
                           : dice.oneOf({NaN, Infinity, 1e300, 1e-320});
-        segments.push_back(segment(samples(dice), offset, step, form(), form()));
+        const auto xMode = form(), yMode = form();
+        segments.push_back(segment(samples(dice), offset, step, xMode, yMode));
         // One without samples shows at which column the segment before it has stopped.
         if (segments.back().count == 0 || dice.upTo(5) == 0)
             segments.back().setSubsampler(boost::make_shared<ForeignCurve>(dice.upTo(30)));

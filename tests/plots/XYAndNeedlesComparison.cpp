@@ -158,7 +158,8 @@ PlotSnapshot randomSnapshot(Dice& dice)
         const double offset = dice.oneOf({0.0, 0.25, -1.0, dice.between(-2.0, 2.0)});
         const double step = dice.upTo(14) ? dice.oneOf({1.0, 0.125, 0.0625, 0.01, -0.125})
                                           : dice.oneOf({NaN, Infinity, 1e300});
-        segments.push_back(segment(samples(dice), offset, step, form(), form()));
+        const auto xMode = form(), yMode = form();
+        segments.push_back(segment(samples(dice), offset, step, xMode, yMode));
         if (dice.upTo(9) == 0)
             segments.back().count = dice.upTo(1) ? -1 : (1LL << 32) + 7;
     }
@@ -209,7 +210,7 @@ void tests::compareXYPlots(Dice& dice, Seen& seen)
 void tests::compareNeedles(Dice& dice, Seen& seen)
 {
     const auto xAxis = randomAxis(dice), yAxis = randomAxis(dice);
-    const double width = columnWidth(dice) * (dice.upTo(9) ? 1.0 : -1.0);
+    const double positive = columnWidth(dice), width = dice.upTo(9) ? positive : -positive;
     const PlotSnapshot data = randomSnapshot(dice);
     NeedlePlotAlgorithm plot;
     plot.setSnapshot(data);

@@ -29,7 +29,8 @@ public:
     int upTo(int last) { return int(word(last < 256 ? 1 : 4) % std::uint32_t(last + 1)); }
     double between(double low, double high)
     {
-        return low + (high - low) * (double(word(4)) / 4294967296.0);
+        // Fused, as compilers may make it of plain arithmetic, or may not.
+        return std::fma(high - low, double(word(4)) / 4294967296.0, low);
     }
     double oneOf(std::initializer_list<double> values)
     {

@@ -61,13 +61,14 @@ double randomSample<double>(Dice& dice)
 {
     const double odd = dice.oneOf({NaN, Infinity, -1.0, -Infinity, 1e19, 1e30, 0.3, -0.0, 0x1p53,
                                    0x1p53 + 2.0, 0x1p64, 0x1p64 - 2048.0, 5e-324, 0.999});
-    return dice.upTo(9) ? std::floor(dice.between(0.0, 40.0)) * dice.upTo(1) : odd;
+    const double usual = std::floor(dice.between(-40.0, 40.0));
+    return dice.upTo(9) ? std::fmax(usual, 0.0) : odd;
 }
 
 template<>
 unsigned randomSample<unsigned>(Dice& dice)
 {
-    return dice.upTo(9) ? unsigned(dice.upTo(40) * dice.upTo(1)) : ~0u;
+    return dice.upTo(9) ? unsigned(std::max(0, dice.upTo(80) - 40)) : ~0u;
 }
 
 template<typename T>
@@ -149,9 +150,10 @@ struct Plots
             return dice.upTo(29) ? dice.oneOf({0.125, 0.1, 0.3, 0.01, dice.between(0.02, 0.5)})
                                  : dice.oneOf({NaN, Infinity, 0.0, -0.1});
         };
-        if (what == 0)
-            layouts.resize(std::size_t(dice.upTo(3)), randomLayout(dice));
-        else if (what == 1 && !layouts.empty())
+        if (what == 0) {
+            const int count = dice.upTo(3);
+            layouts.assign(std::size_t(count), randomLayout(dice));
+        } else if (what == 1 && !layouts.empty())
             layouts.back() = randomLayout(dice);
         else if (what == 2)
             isWhole = dice.upTo(1);
