@@ -116,8 +116,6 @@ void MirroredAxis::scaleAxis(double at, double by,
 
 void MirroredAxis::onTicksUpdated()
 {
-    if (!m_source)
-        return;
     m_ticksStale = true;
     try {
         updateTicks();

@@ -37,7 +37,7 @@ int putWithin(double columnX, double columnWidth, const double* x, const double*
     const auto stays = [=](int k) {
         return std::fabs(x[k] - columnX) < columnWidth && !std::isnan(y[k]);
     };
-    if (i == count || !stays(i))
+    if (!stays(i))
         return i;
     detail::ColumnValues all = values; // The loop keeps these in registers.
     do

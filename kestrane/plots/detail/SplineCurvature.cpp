@@ -98,12 +98,12 @@ SplineCurvature::SplineCurvature(const double* samples, std::size_t count, doubl
 void SplineCurvature::write(std::size_t first, std::size_t count, double* c)
 {
     // The natural ends are no results of a step.
-    if (count > 0 && first == 0) {
+    if (first == 0) {
         *c++ = 0.0;
         ++first;
         --count;
     }
-    if (count > 0 && first + count == m_count)
+    if (first + count == m_count)
         c[--count] = 0.0;
     if (count == 0)
         return;
