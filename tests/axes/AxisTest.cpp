@@ -166,6 +166,15 @@ TEST(AxisSignalsTest, UpdateAndTheEmittersTellWhatTheyAreToldTo)
     EXPECT_EQ(log.take(), "minValueChanged(0) maxValueChanged(10)");
 }
 
+TEST(AxisSignalsTest, OfSeveralExceptionsOfListenersTheFirstOneIsThrown)
+{
+    LogAxis axis(1.0, 100.0);
+    QObject::connect(&axis, &LogAxis::largestChanged, [] { throw 1; });
+    QObject::connect(&axis, &Axis::axisChangedViaScalingOrScrolling, [] { throw 2.0; });
+    EXPECT_THROW(axis.scrollAxis(0.0, 0.5), int);
+    EXPECT_EQ(axis.maxValue(), 1000.0);
+}
+
 TEST(AxisMetaObjectTest, EveryClassHasTheSameDefaultLimits)
 {
     LogAxis log(1.0, 100.0), source(1.0, 100.0), sub(1.0, 100.0);

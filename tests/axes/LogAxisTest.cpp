@@ -147,6 +147,7 @@ TEST_F(LogAxisTest, ScalingKeepsTheSmallestValue)
         {0.5, 0.5, Highest, Highest}, // To the start of the axis: as far as it goes.
         {0.5, 0.75, 1e6, 1e6},        {0.5, 0.25, 5000.0, 5000.0},
         {0.5, NaN, Highest, NaN},     {0.5, 0.25, NaN, 1e4}, // No limit at all.
+        {0.5, 0.25, -1.0, -1.0},                             // One that has no logarithm.
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(Message() << row.at << ' ' << row.by);

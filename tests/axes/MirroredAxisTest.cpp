@@ -130,14 +130,27 @@ TEST(MirroredAxisSourceTest, GetsEveryArgumentAndKeepsItsTicksInvisible)
         {
             Recorder::scrollAxis(at, by, base, low, high, pixel);
         }
-        QVector<Tick> majorTicks() override { return {{1.0, 0.5, 7.0, {}, true}}; }
+        QVector<Tick> majorTicks() override
+        {
+            if (isOutOfOrder)
+                throw 1;
+            return {{1.0, 0.5, 7.0, {}, true}};
+        }
         QList<double> got;
-    } source;
+        bool isOutOfOrder = false;
+    };
+    auto own = std::make_unique<Recorder>();
+    Recorder& source = *own;
     MirroredAxis mirror(&source);
     mirror.scrollAxis(0.25, 0.5, mirror.scrollScaleState(), -7.0, 9.0, 0.125);
     mirror.scaleAxis(0.75, -0.5, {}, -3.0, 5.0, 0.25);
     EXPECT_EQ(source.got, (QList<double>{0.75, -0.5, 1, -7, 9, 0.125, 0.25, 0.5, 0, -3, 5, 0.25}));
     EXPECT_TRUE(mirror.majorTicks().last().isInvisible());
+    source.isOutOfOrder = true;
+    source.setScale(2.0);
+    EXPECT_THROW(mirror.majorTicks(), int);
+    own.reset(); // It keeps what it has.
+    EXPECT_EQ(mirror.majorTicks().size(), 2);
 }
 
 TEST_F(MirroredAxisTest, WithoutASourceItAnswersZero)

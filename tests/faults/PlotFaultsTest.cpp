@@ -105,6 +105,8 @@ struct Parts
     double value() { return spline[1500.5]; }
     std::string read() { return Bits::of(value(), line, double(column.count())); }
 
+    void flush() { PointsBasedPlotHelper().flushMinMax(0.5, column, line); }
+
     pelorin::backend::PlotSegment data = parabola();
     Spline spline{data.begin, data.count};
     MinMaxAverageAlgorithm column;
@@ -210,8 +212,12 @@ TEST(PlotFaults, AreSurvivedByPartsOfPlots)
         row<Parts>("operator=", [](Parts& p) { p.spline = Parts::Spline(p.spline); }),
         row<Parts>("PlotSnapshot",
                    [](Parts& p) { return double(PlotSnapshot({p.data}).segments.size()); }),
-        row<Parts>("flushMinMax",
-                   [](Parts& p) { PointsBasedPlotHelper().flushMinMax(0.5, p.column, p.line); }),
+        row<Parts>("flushMinMax", [](Parts& p) { p.flush(); }),
+        row<Parts>("flushMinMax to a full line",
+                   [](Parts& p) {
+                       p.line.squeeze();
+                       p.flush();
+                   }),
     });
 }
 

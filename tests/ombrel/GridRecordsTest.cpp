@@ -69,10 +69,13 @@ TYPED_TEST(GridRecordsTest, OneMemoryServesManyGrids)
         {"every other", {memory, info, {2, 2}, {2, 8}, 1}, {1, 3, 21, 23}},
         {"mirrored", {memory, info, {4, 1}, {-1, 4}, 11}, {23, 22, 21, 20}},
         {"none", {memory, info, {0, 3}}, {}},
+        {"none in rows", {memory, info, {0, 3}, {1, 4}}, {}},
     };
     for (auto [name, segment, expected] : cases) {
         EXPECT_EQ(this->read(segment, false), expected) << name;
-        auto block = this->read(segment, true);
+        auto copy = cases[0].segment;
+        copy = segment;
+        auto block = this->read(copy, true);
         EXPECT_TRUE(
             std::is_permutation(block.begin(), block.end(), expected.begin(), expected.end()))
             << name;

@@ -6,6 +6,22 @@
 
 using namespace pelorin::variables;
 
+TEST(QuantityTest, ComparesItsNameAndEachFieldOfItsUnits)
+{
+    const Quantity::Unit unit{"V", true, 2.0, 3.0, "US"};
+    const Quantity voltage("U", {unit});
+    EXPECT_TRUE(voltage == Quantity("U", {{"V", true, 2.0, 3.0, "US"}}));
+    Quantity::Unit others[] = {unit, unit, unit, unit, unit};
+    others[0].symbol = "W";
+    others[1].takesPrefix = false;
+    others[2].scale = 2.5;
+    others[3].offset = -3.0;
+    others[4].system.clear();
+    for (const Quantity::Unit& other : others)
+        EXPECT_TRUE(voltage != Quantity("U", {other})) << (&other - others);
+    EXPECT_TRUE(voltage != Quantity("I", {unit}) && voltage != Quantity("U"));
+}
+
 TEST(QuantityManagerTest, LearnsAndReplacesWhileOthersAsk)
 {
     QuantityManager manager;

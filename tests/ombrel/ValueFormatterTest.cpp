@@ -2,6 +2,7 @@
 #include "kestrane/backend/QuantityManager.h"
 #include "tests/support/Numbers.h"
 #include "tests/support/QtPrinters.h"
+#include "tests/support/SignalLog.h"
 
 #include <gtest/gtest.h>
 
@@ -43,6 +44,12 @@ TEST_F(ValueFormatterTest, WritesANumberWithPrefixAndUnit)
     EXPECT_EQ(texts("mass", {0.001, 70.0, -1e306, Highest, -Infinity}),
               "1 g; 70 kg; -1×10³⁰⁹ g; 1.798×10³¹¹ g; -∞");
     EXPECT_EQ(texts("count", {1234567.0}), "1235000");
+    for (const QVariant& seven :
+         {QVariant(7), QVariant(7ULL), QVariant::fromValue(7L), QVariant::fromValue(7UL),
+          QVariant::fromValue<short>(7), QVariant::fromValue<ushort>(7),
+          QVariant::fromValue<char>(7), QVariant::fromValue<signed char>(7),
+          QVariant::fromValue<uchar>(7)})
+        EXPECT_EQ(m_formatter.format(seven), "7") << seven.typeName();
 
     const struct
     {
@@ -136,8 +143,10 @@ TEST_F(ValueFormatterTest, UnitsAreChosenByIndexOrElseBySystem)
     EXPECT_EQ(texts("pressure", {101325.0}), "14.7 psi");
     EXPECT_EQ(texts("power", {745.7}), "1 hp");
     EXPECT_EQ(texts("time", {90.0}), "90 s");
-    m_formatter.setPreferredUnit(99);
-    EXPECT_EQ(texts("temperature", {310.15}), "98.6 °F");
+    for (const int none : {99, -1}) {
+        m_formatter.setPreferredUnit(none);
+        EXPECT_EQ(texts("temperature", {310.15}), "98.6 °F");
+    }
     m_formatter.setOptions(F::AlwaysSign);
     EXPECT_EQ(texts("temperature", {10.0}), "+18 °F");
     m_formatter.setOptions({});
@@ -149,4 +158,23 @@ TEST_F(ValueFormatterTest, UnitsAreChosenByIndexOrElseBySystem)
     EXPECT_EQ(texts("acceleration", {19.6133}), "2 g₀");
     EXPECT_EQ(texts("energy", {3.6e6}), "1 kWh");
     EXPECT_EQ(texts("ratio", {0.05}), "50000 ppm");
+
+    m_formatter.setQuantity(variables::Quantity("", {{"u", true, Infinity, 0.0, ""}}));
+    EXPECT_EQ(m_formatter.format(-2.0), "-∞");
+}
+
+TEST_F(ValueFormatterTest, SettersTellOfChangesOnly)
+{
+    SignalLog log(&m_formatter);
+    for (int turn = 0; turn < 2; ++turn) {
+        m_formatter.setQuantity(quantity("mass"));
+        m_formatter.setLocale(QLocale("de"));
+        m_formatter.setOptions(F::NoUnit);
+        m_formatter.setPreferredUnit(2);
+        m_formatter.setPreferredPrefix(3);
+        m_formatter.setPreferredUnitSystem("US");
+        m_formatter.setSignificantDigits(7);
+        m_formatter.setLimitRangeCount(5);
+        EXPECT_EQ(log.take().count("Changed("), turn == 0 ? 8 : 0);
+    }
 }

@@ -24,7 +24,9 @@ TEST(PointsBasedPlotHelperTest, AColumnBecomesFirstMinimumMaximumLastWithoutRepe
         {{above, 2, above}, {above, 2, above}},
         {{2, above, 2}, {2, above, 2}},
     };
-    pelorin::ui::chart::PointsBasedPlotHelper helper;
+    const pelorin::ui::chart::PointsBasedPlotHelper original;
+    auto helper = original;
+    helper = original;
     pelorin::algo::MinMaxAverageAlgorithm minMax;
     for (const Row& row : rows) {
         for (const double value : row.values)

@@ -100,6 +100,10 @@ TEST(SplineAlgorithmTest, ATailIsASplineOfItsOwnOverTheRest)
 {
     const std::vector<double> samples = randomWalk(40);
     Spline whole = spline(samples);
+    Spline other = spline({1.0});
+    other = whole;
+    Spline moved = std::move(other);
+    EXPECT_EQ(moved[20.5], whole[20.5]);
     const auto tail = whole.tail(10);
     Spline rest = spline(std::vector<double>(samples.begin() + 10, samples.end()));
     for (double index = 0.0; index < 29.0; index += 0.125)

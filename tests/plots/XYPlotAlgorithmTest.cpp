@@ -87,6 +87,20 @@ TEST(XYPlotAlgorithmTest, EachPairOfSegmentsStandsAloneAndItsGridDoesNotCount)
     EXPECT_EQ(plot.symbols, Lists(expected.begin() + 1, expected.end()));
 }
 
+TEST(XYPlotAlgorithmTest, ALongLineIsComplete)
+{
+    std::vector<double> x;
+    Points points;
+    for (int i = 0; i < 300000; ++i) {
+        x.push_back(i / 512.0);
+        points.emplace_back(x.back(), x.back());
+    }
+    const PlotSnapshot data = snapshot({segment(x)});
+    const Plot plot = plotOf(data, data, 1.0 / 512);
+    EXPECT_EQ(plot.polylines, Lists{points});
+    EXPECT_EQ(plot.symbols, Lists{points});
+}
+
 TEST(XYPlotAlgorithmTest, ColumnWidthsAndWhatLeavesNothingToDraw)
 {
     const PlotSnapshot x = snapshot({segment({0.5, 0.0, 0.75})}),
