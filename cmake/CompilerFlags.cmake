@@ -24,6 +24,12 @@ if(KESTRANE_SANITIZE)
   target_compile_options(kestrane_compiler_flags INTERFACE ${sanitize} -fno-omit-frame-pointer)
   target_link_options(kestrane_compiler_flags INTERFACE ${sanitize})
 endif()
+if(KESTRANE_COVERAGE)
+  # What threads count at the same time must not get lost: other counts are differences.
+  target_compile_options(kestrane_compiler_flags INTERFACE
+    -fprofile-instr-generate -fcoverage-mapping -fprofile-update=atomic)
+  target_link_options(kestrane_compiler_flags INTERFACE -fprofile-instr-generate)
+endif()
 if(KESTRANE_BUILD_FUZZERS)
   target_compile_options(kestrane_compiler_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
