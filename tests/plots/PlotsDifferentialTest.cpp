@@ -13,6 +13,7 @@
 
 using namespace pelorin::ui::chart;
 using namespace tests;
+using pelorin::backend::PlotSegment;
 
 TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
 {
@@ -30,47 +31,60 @@ TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
 
 TEST(SamplePlotDifferentialTest, AgreesWhereShortcutsAreHardToTake)
 {
-    using AxisPointer = QSharedPointer<const Axis>;
-    const AxisPointer decades = QSharedPointer<LogAxis>::create(1.0, 100.0);
-    const double next = 2.0 * (1.0 + 1e-13); // Beside 2.0, as far as logarithms tell.
+    const auto sine = [](int i) { return std::sin(i); };
+    // Numbers that are next to the extremes, as far as logarithms tell.
+    const auto near = [](double extreme, int i) { return extreme * (1.0 + 1e-16 * (i * 7 % 999)); };
+    const auto log = [](double smallest, double largest) {
+        return QSharedPointer<const Axis>(new LogAxis(smallest, largest));
+    };
+    const auto decades = log(1.0, 100.0);
+    const auto wide = linearAxis(20000.0);
     const struct
     {
         const char* what;
         int count;
         std::function<double(int)> sample;
         double offset, step;
-        AxisPointer xAxis, yAxis;
+        QSharedPointer<const Axis> xAxis, yAxis;
         double columnWidth;
     } rows[] = {
+        // clang-format off
         {"extremes far behind", 20000,
-         [](int i) { return i % 5000 == 4700 ? 2.0 : 3.0 + std::sin(i); }, 0.0, 1.0,
-         linearAxis(20000.0), decades, 0.25},
+         [&](int i) { return i % 5000 == 4700 ? 2.0 : 3.0 + sine(i); },
+         0.0, 1.0, wide, decades, 0.25},
         {"extremes in each block", 20000,
-         [=](int i) {
-             return i % 64 == 0 ? 2.0 : i % 64 == 1 ? 9.0 : i == 7000 ? next : 4.0;
-         },
-         0.0, 1.0, linearAxis(20000.0), decades, 0.25},
+         [&](int i) { return i == 7000 ? near(2.0, 7) : i % 64 < 2 ? 2.0 + 7.0 * (i % 64) : 4.0; },
+         0.0, 1.0, wide, decades, 0.25},
         {"extremes in some blocks", 20000,
-         [=](int i) {
-             return i == 300 ? 2.0 : i == 500 ? 9.0 : i == 700 ? next : 4.0 + i % 2;
-         },
-         0.0, 1.0, linearAxis(20000.0), decades, 0.25},
-        {"a parabola", 20000, [](int i) { return double(i) * i; }, 0.0, 1.0, linearAxis(20000.0),
-         linearAxis(4e8), 0.005},
-        {"samples that share places", 4000, [](int i) { return std::sin(i); }, 1e15, 0.01,
-         linearAxis(40.0, 1e15), linearAxis(), 0.02},
-        {"columns that share places", 4000, [](int i) { return std::sin(i); }, 1e16, 0.01,
-         linearAxis(40.0, 1e16), linearAxis(), 0.001},
-        {"columns narrower than a step", 400, [](int i) { return std::sin(i); }, 1e16, 2.0,
-         linearAxis(40.0, 1e16), linearAxis(), 0.01},
-        {"an axis from nowhere", 9, [](int i) { return double(i); }, 0.0, 1.0, linearAxis(9.0),
-         linearAxis(1.0, Infinity), 0.25},
+         [&](int i) { return i == 700 ? near(2.0, 7) : i == 300 ? 2.0 : i == 500 ? 9.0 : 4.0; },
+         0.0, 1.0, wide, decades, 0.25},
+        {"many beside the extremes", 20000,
+         [&](int i) { return i % 97 == 0 ? near(2.0, i) : i % 89 == 0 ? near(9.0, i) : 4.0; },
+         0.0, 1.0, wide, decades, 0.25},
+        {"a few beside them", 20000,
+         [&](int i) { return i % 47 == 0 ? near(2.0, i) : i % 43 == 0 ? near(9.0, i) : 4.0; },
+         0.0, 1.0, wide, decades, 1.0 / 256},
+        {"a parabola", 20000, [](int i) { return double(i) * i; },
+         0.0, 1.0, wide, linearAxis(4e8), 0.005},
+        {"samples that share places", 4000, sine,
+         1e15, 0.01, linearAxis(40.0, 1e15), linearAxis(), 0.02},
+        {"columns that share places", 4000, sine,
+         1e16, 0.01, linearAxis(40.0, 1e16), linearAxis(), 0.001},
+        {"columns narrower than a step", 400, sine,
+         1e16, 2.0, linearAxis(40.0, 1e16), linearAxis(), 0.01},
+        {"logarithms that share places", 4000, sine,
+         1e14 - 8e3, 4.0, log(1e9, 1e19), linearAxis(), 0.125},
+        {"an axis from nowhere", 9, sine,
+         0.0, 1.0, linearAxis(9.0), linearAxis(1.0, Infinity), 0.25},
+        // clang-format on
     };
     for (const auto& row : rows) {
-        std::vector<double> samples;
+        // What lies around the samples is not to be read.
+        std::vector<double> memory(std::size_t(row.count) + 2, NaN);
         for (int i = 0; i < row.count; ++i)
-            samples.push_back(row.sample(i));
-        const auto data = snapshot({segment(samples, row.offset, row.step)});
+            memory[std::size_t(i) + 1] = row.sample(i);
+        const auto whole = segment(memory, row.offset, row.step);
+        const auto data = snapshot({PlotSegment(whole.begin + 1, whole.end - 1, whole.xInfo)});
         const auto expected = plainSamplePlot(data, *row.xAxis, *row.yAxis, row.columnWidth, 1.0);
         SamplePlotAlgorithm plot;
         plot.setSnapshot(data);

@@ -100,6 +100,29 @@ TEST_F(NeedlePlot2DAlgorithmTest, SumsCountAsWholeNumbersForColours)
                    {{3.5, 1.5, 0}, {3.5, 0, 0}}});
 }
 
+TEST_F(NeedlePlot2DAlgorithmTest, SamplesMayLieApartInMemory)
+{
+    constexpr long long width = 9, height = 25; // Cells of three and four samples.
+    Doubles dense(width * height), spread(2 * dense.size(), 1e9);
+    for (std::size_t k = 0; k < dense.size(); ++k)
+        spread[2 * k] = dense[k] = double(k * 7919 % 101);
+    const std::array<MetaInfo, 2> metaInfo{MetaInfo(0.0, 0.3), MetaInfo(0.0, 0.3)};
+    const Indices shape{width, height};
+    plot.setSnapshot(Grids<double>({Grid<double>(memory(dense), metaInfo, shape, {height, 1})}));
+    const auto expected = ask();
+    plot.setSnapshot(
+        Grids<double>({Grid<double>(memory(spread), metaInfo, shape, {2 * height, 2})}));
+    const auto actual = ask();
+    ASSERT_EQ(actual.size(), 2);
+    for (int n = 0; n < 2; ++n) {
+        ASSERT_EQ(actual[n].size(), expected[n].size());
+        for (int k = 0; k < actual[n].size(); ++k) {
+            EXPECT_EQ(actual[n][k].y, expected[n][k].y);
+            EXPECT_EQ(actual[n][k].color, expected[n][k].color);
+        }
+    }
+}
+
 TEST_F(NeedlePlot2DAlgorithmTest, WithoutCellsOrPixelsThereAreNoNeedles)
 {
     plot.setSnapshot(Grids<unsigned>({grid<unsigned>({2, 2}, {1, 2, 3, 4})}));
