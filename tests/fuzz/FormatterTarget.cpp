@@ -1,38 +1,13 @@
 #include "kestrane/axes/TickFormatter.h"
 
 #include "tests/fuzz/Target.h"
+#include "tests/support/Labels.h"
 #include "tests/support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
 using namespace pelorin::ui::chart;
 using namespace tests;
-
-namespace {
-
-// What a label says, its prefix and its power of ten included.
-double parsed(QString text, const QLocale& locale)
-{
-    static const QString prefixes = QStringLiteral("yzafpnµm kMGTPEZY"),
-                         raised = QStringLiteral("⁰¹²³⁴⁵⁶⁷⁸⁹");
-    int exponent = 0;
-    if (text.endsWith('V')) {
-        text.chop(1);
-        const int prefix = prefixes.indexOf(text.back());
-        exponent = 3 * (prefix - 8);
-        text = text.left(text.size() - 1).trimmed();
-    }
-    const QStringList parts = text.split(QStringLiteral("×10"));
-    if (parts.size() == 2) {
-        QString digits;
-        for (const QChar c : parts[1])
-            digits += raised.contains(c) ? QChar('0' + raised.indexOf(c)) : QChar('-');
-        exponent += digits.toInt();
-    }
-    return locale.toDouble(parts[0].trimmed() + 'e' + QString::number(exponent));
-}
-
-} // namespace
 
 FUZZ_TARGET(TickFormatter)
 {
@@ -52,7 +27,7 @@ FUZZ_TARGET(TickFormatter)
     const Axis::Tick tick(value, 0.5, 0.0, {}, false);
     const QString text = formatter.formatTick(tick, NaN).first();
     if (std::fabs(value) > 1e-300 && std::fabs(value) < 1e300) {
-        EXPECT_NEAR(parsed(text, locale) / value, 1.0, 0.5000001 * std::pow(10.0, 1 - digits))
+        EXPECT_NEAR(readLabel(text, locale) / value, 1.0, 0.5000001 * std::pow(10.0, 1 - digits))
             << text.toStdString() << " for " << value;
     }
 

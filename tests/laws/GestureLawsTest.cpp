@@ -124,7 +124,7 @@ LAW(GestureLawsTest, NoGestureLeadsOutOfItsLimits)
     const Drag drag(dice);
     const Leaf& leaf = specimen.leafAt(drag.at);
     const State base = dice.upTo(1) ? specimen.axis->scrollScaleState() : nullptr;
-    for (const double share : {20.0, -20.0, 7.0}) {
+    for (const double share : {60.0, -60.0, 7.0}) {
         drag.move(*specimen.axis, share, base, &leaf);
         if (!(leaf.axis->minValue() < leaf.axis->maxValue()))
             return; // A scroll beyond the bottom limit turns a logarithmic axis round.
@@ -189,15 +189,17 @@ LAW(GestureLawsTest, ASetterThatChangesNothingSaysNothing)
     EXPECT_EQ(linearLog.take() + logLog.take(), "");
 }
 
-LAW(GestureLawsTest, AnAxisHasTheTicksOfOneThatWasMadeSo)
+LAW(GestureLawsTest, APositionComesBackFromItsValueAfterwardsToo)
 {
-    LinearAxis axis{dice.between(0.1, 10.0), dice.between(-10.0, 10.0), 0.0, false, 10, 5};
-    axis.majorTicks();
-    for (int i = dice.upTo(3); i >= 0; --i)
-        Drag(dice).move(axis, 1.0, nullptr);
-    LinearAxis made(axis.scale(), axis.offset(), 0.0, false, 10, 5);
-    EXPECT_EQ(axis.minorTicks(), made.minorTicks());
-    EXPECT_EQ(axis.majorTicks(), made.majorTicks());
+    const Specimen specimen = Specimen::any(dice);
+    if (!specimen.takesLogarithms) // A mirror among others is filed where it first stood.
+        return;
+    const Drag drag(dice);
+    drag.move(*specimen.axis, 1.0, nullptr, &specimen.leafAt(drag.at));
+    const double position = dice.between(0.001, 0.999);
+    const double value = specimen.axis->inverseTransform(Axis::Linear, position);
+    EXPECT_NEAR(specimen.axis->transform(Axis::Linear, value), position,
+                specimen.tolerance(position));
 }
 
 LAW(GestureLawsTest, TheAutoScalerKeepsDataWhereItHasPutThem)

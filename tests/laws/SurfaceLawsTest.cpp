@@ -256,6 +256,24 @@ LAW(SurfaceLawsTest, AClassTakesWhatIsNotBelowIt)
     }
 }
 
+LAW(SurfaceLawsTest, AnotherClassChangesColoursFromItsThresholdToTheNext)
+{
+    ColorMap map = randomMap(dice, true);
+    const ColorMap before = map;
+    const auto threshold = std::size_t(dice.upTo(12));
+    map.appendEntry(Qt::white, threshold);
+    auto next = ~std::size_t(0);
+    for (int i = 0; i < before.numberOfClasses(); ++i) {
+        if (before.thresholdAtIndex(i) > threshold)
+            next = std::min(next, before.thresholdAtIndex(i));
+    }
+    for (std::size_t value = 0; value < 20; ++value) {
+        const bool isItsOwn = value > 0 && value >= threshold && value < next;
+        EXPECT_EQ(map.mapToColor(value), isItsOwn ? QColor(Qt::white) : before.mapToColor(value))
+            << value;
+    }
+}
+
 LAW(SurfaceLawsTest, AMapTimesAFactorTakesTheMultiples)
 {
     const ColorMap map = randomMap(dice);
