@@ -222,9 +222,9 @@ void surfaces(Dice& dice, Digest& digest)
 }
 
 const std::pair<const char*, Operation> operations[] = {
-    {"transform", transform},   {"ticks", ticks},     {"labels", labels},
+    {"transform", transform},    {"ticks", ticks},     {"labels", labels},
     {"auto scaler", autoScaler}, {"spline", spline},   {"sample plot", samplePlot},
-    {"x/y plot", xyPlot},       {"needles", needles}, {"surfaces", surfaces}};
+    {"x/y plot", xyPlot},        {"needles", needles}, {"surfaces", surfaces}};
 
 } // namespace
 

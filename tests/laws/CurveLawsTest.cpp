@@ -123,9 +123,9 @@ LAW(CurveLawsTest, ASplineThroughALineIsTheLine)
     EXPECT_EQ(spline[index], step * (index - whole) + samples[std::size_t(whole)]);
 }
 
-// Where no sample is larger than 1.0, a sixth of the second derivative is 2.0 at the most: the largest
-// second difference, 4.0, over the excess of the diagonal of its equations, 4.0 - 2.0. The slope at a
-// sample is that three times and the difference to the next sample, 8.0.
+// Where no sample is larger than 1.0, a sixth of the second derivative is 2.0 at the most: the
+// largest second difference, 4.0, over the excess of the diagonal of its equations, 4.0 - 2.0. The
+// slope at a sample is that three times and the difference to the next sample, 8.0.
 LAW(CurveLawsTest, ASplineHasNoJumps)
 {
     const Samples samples = randomSamples(dice, 2);
