@@ -23,8 +23,9 @@ struct Drag
 {
     explicit Drag(Dice& dice)
         : gesture(dice.upTo(1) ? &Axis::scaleAxis : &Axis::scrollAxis)
-        , at(dice.between(0.01, 0.999)) // No nearer to the start than a pixel.
+        , at(dice.upTo(3) / 4.0)
     {
+        at += dice.between(0.005, 0.245); // A few pixels off the ends of all parts.
         by = dice.between(-0.05, 0.05) * (isScaling() ? at : 1.0);
     }
 
