@@ -38,6 +38,7 @@ Fault armedFault = Fault::Memory;
 long countdown = 0;
 bool happened = false;
 long live = 0;
+long made = 0;
 
 bool isTurn()
 {
@@ -57,6 +58,7 @@ template<typename Allocate>
 void* allocated(const Allocate& allocate)
 {
     void* const memory = memoryFails() ? nullptr : allocate();
+    ++made;
     if (memory)
         ++live;
     else
@@ -90,6 +92,11 @@ void hostCode()
         happened = true;
         throw HostError();
     }
+}
+
+long allocations()
+{
+    return made;
 }
 
 long liveAllocations()

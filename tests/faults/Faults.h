@@ -27,7 +27,10 @@ bool faultHappened();
 /// To be called wherever a host's code may throw.
 void hostCode();
 
-/// Allocations less releases, of the whole process.
+/// Allocations of the whole process so far.
+long allocations();
+
+/// Those less releases.
 long liveAllocations();
 
 } // namespace tests
