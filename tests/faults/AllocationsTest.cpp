@@ -14,8 +14,8 @@
 #include "tests/support/Numbers.h"
 #include "tests/surfaces/Grids.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <functional>
 #include <utility>
@@ -110,6 +110,7 @@ TEST(AllocationsTest, ARepeatedRequestTakesItsResultAndLittleElse)
                 [&] { return needlePlot.createNeedles(x.data(), y.data(), width).values; }),
             takenBesideResult([&] { return xyPlot.createSegments(y, y, width, 1.0); }),
             takenBesideResult([&] { return histogram.makeColorArrays(x, x, map, width, 0.1); })};
-        EXPECT_THAT(taken, testing::ElementsAre(testing::Le(2), 0, testing::Le(5), testing::Le(30)));
+        EXPECT_THAT(taken,
+                    testing::ElementsAre(testing::Le(2), 0, testing::Le(5), testing::Le(30)));
     }
 }

@@ -209,13 +209,14 @@ int main(int argc, char** argv)
     for (time.start(); double(time.elapsed()) < 1e3 * seconds; ++windows) {
         last = window();
         if (!last.isFlat(first)) {
-            std::fprintf(stderr, "soak: %.0f kB in use and %.0f kB resident, at first %.0f and %.0f\n",
+            std::fprintf(stderr,
+                         "soak: %.0f kB in use and %.0f kB resident, at first %.0f and %.0f\n",
                          last.allocated / 1e3, last.resident / 1e3, first.allocated / 1e3,
                          first.resident / 1e3);
             return 1;
         }
     }
     std::printf("soak: %ld rounds, %.0f kB in use and %.0f kB resident, at first %.0f and %.0f\n",
-                windows * looksPerWindow * roundsPerLook, last.allocated / 1e3,
-                last.resident / 1e3, first.allocated / 1e3, first.resident / 1e3);
+                windows * looksPerWindow * roundsPerLook, last.allocated / 1e3, last.resident / 1e3,
+                first.allocated / 1e3, first.resident / 1e3);
 }

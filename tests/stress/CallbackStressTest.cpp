@@ -11,6 +11,7 @@
 #include <deque>
 #include <memory>
 #include <mutex>
+#include <stdexcept>
 #include <thread>
 
 using namespace pelorin::ui::chart;
@@ -49,15 +50,15 @@ public:
         , m_self(self)
     {}
 
-    void run(int rounds)
+    void run(std::size_t rounds)
     {
-        for (int round = 0; round < rounds; ++round) {
+        repeat(rounds, [this](std::size_t round) {
             if (round % 2 == 0)
                 add();
-            if (round % 3 == 0)
+            if (round % 3 == 0 || m_registrations.size() > 100)
                 drop();
             fire();
-        }
+        });
         while (!m_registrations.empty())
             drop();
         fire();
@@ -210,7 +211,7 @@ TEST(CallbackStressTest, ListsAndRegistrationsDieInAnyOrderOnAnyThread)
         std::array<Slot<std::shared_ptr<CountingList>>, 3> lists;
         std::array<Slot<Registration>, 16> registrations;
         runThreads([&](std::size_t thread) {
-            for (std::size_t round = 0; round < rounds; ++round) {
+            repeat(rounds, [&](std::size_t round) {
                 auto& listSlot = lists[(round + thread) % lists.size()];
                 auto& slot = registrations[(round * 7 + thread) % registrations.size()];
                 std::shared_ptr<CountingList> list = listSlot.exchange(nullptr);
@@ -224,9 +225,35 @@ TEST(CallbackStressTest, ListsAndRegistrationsDieInAnyOrderOnAnyThread)
                 }));
                 if (round % 4 == 0)
                     list->fire();
-            }
+            });
         });
     }
     EXPECT_EQ(births, deaths);
     EXPECT_EQ(token.use_count(), 1);
+}
+
+TEST(CallbackStressTest, WhatACallbackThrowsComesOutOnceAndLeavesTheListFree)
+{
+    Plot plot;
+    std::atomic<long> calls{0}, thrown{0}, caught{0};
+    runThreads([&](std::size_t) {
+        repeat(300, [&](std::size_t) {
+            const Registration registration = plot.notifyees().add([&](const Intersectable*) {
+                if (++calls % 5 == 0) {
+                    ++thrown;
+                    throw std::runtime_error("a callback's own");
+                }
+            });
+            try {
+                plot.fireUpdates();
+            } catch (const std::runtime_error&) {
+                ++caught;
+            }
+        });
+    });
+    EXPECT_GT(thrown, 0);
+    EXPECT_EQ(thrown, caught);
+    const long before = calls;
+    plot.fireUpdates(); // All are gone.
+    EXPECT_EQ(calls, before);
 }

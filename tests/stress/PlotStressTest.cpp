@@ -19,15 +19,13 @@ template<typename SetData, typename Check>
 void exercise(const SetData& setData, const Check& check)
 {
     runThreads([&](std::size_t thread) {
-        for (std::size_t round = 0; round < 300; ++round) {
-            if (thread % 2 != 0) {
-                check();
-                continue;
-            }
+        repeat(300, [&](std::size_t round) {
+            if (thread % 2 != 0)
+                return check();
             const std::size_t number = (round + thread) % 4 * 16;
             setData(number == 0 ? PlotSnapshot()
                                 : snapshot({segment(std::vector<double>(number, double(number)))}));
-        }
+        });
     });
 }
 

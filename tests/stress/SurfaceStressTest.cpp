@@ -44,7 +44,7 @@ TEST(SurfaceStressTest, ColouredCellsAreOfOneSnapshotAndOneMode)
     Histogram2DPlotAlgorithm plot;
     const auto axis = linearAxis();
     runThreads([&](std::size_t thread) {
-        for (std::size_t round = 0; round < 300; ++round) {
+        repeat(300, [&](std::size_t round) {
             bool changed = false;
             if (thread % 4 == 0) {
                 plot.setSnapshot(gridsOf<double>(round + thread));
@@ -60,7 +60,7 @@ TEST(SurfaceStressTest, ColouredCellsAreOfOneSnapshotAndOneMode)
                                                                 round % 2 ? &changed : nullptr))
                     check(segment);
             }
-        }
+        });
     });
 }
 
@@ -69,13 +69,13 @@ TEST(SurfaceStressTest, ColouredNeedlesAreOfOneSnapshot)
     NeedlePlot2DAlgorithm plot;
     const auto axis = linearAxis();
     runThreads([&](std::size_t thread) {
-        for (std::size_t round = 0; round < 300; ++round) {
+        repeat(300, [&](std::size_t round) {
             if (thread % 2 == 0) {
                 if (thread == 2)
                     plot.clearGeometryCache();
                 else
                     plot.setSnapshot(gridsOf<double>(round + thread));
-                continue;
+                return;
             }
             const auto needles = plot.makeNeedles(axis, axis, Qt::red, Qt::blue, 1.0, 1.0);
             for (int n = 0; n < needles.size(); ++n) {
@@ -84,6 +84,6 @@ TEST(SurfaceStressTest, ColouredNeedlesAreOfOneSnapshot)
                 EXPECT_EQ(needles[n][4].x, n % width + 0.5);
                 EXPECT_EQ(needles[n][4].color, QColor(Qt::blue));
             }
-        }
+        });
     });
 }
