@@ -1,5 +1,6 @@
 #include "kestrane/axes/AggregateAxis.h"
 
+#include "kestrane/axes/MirroredAxis.h"
 #include "kestrane/axes/detail/InTurn.h"
 #include "kestrane/axes/detail/RankOrder.h"
 
@@ -70,7 +71,7 @@ AggregateAxis::~AggregateAxis() = default;
 
 AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
 {
-    if (!axis)
+    if (!axis || isPartOf(axis))
         return *this;
     // What may fail comes first, and is lost with these two.
     Map<SubAxisEntry> added;
@@ -92,6 +93,18 @@ AggregateAxis& AggregateAxis::addAxis(Axis* axis, double from, double to)
     detail::inTurn(
         this, [&] { emitLimitsAndParameters(); }, [&] { Q_EMIT ticksUpdated(); });
     return *this;
+}
+
+// Or that axis itself. Of a host's own axes nobody knows what they are made of.
+bool AggregateAxis::isPartOf(const Axis* axis) const
+{
+    if (const auto* const mirror = dynamic_cast<const MirroredAxis*>(axis))
+        return isPartOf(mirror->m_source);
+    const auto* const aggregate = dynamic_cast<const AggregateAxis*>(axis);
+    if (!aggregate || aggregate == this)
+        return aggregate == this;
+    return std::any_of(aggregate->m_subAxes.begin(), aggregate->m_subAxes.end(),
+                       [this](const auto& node) { return isPartOf(node.second.axis); });
 }
 
 void AggregateAxis::connectTo(SubAxisEntry& entry)

@@ -47,8 +47,9 @@ public:
     explicit AggregateAxis(QObject* parent = nullptr);
     ~AggregateAxis() override;
 
-    /// Gives @p axis the stretch from @p from to @p to; null changes nothing. A sub-axis that
-    /// starts at the same place is replaced, but its signals are still passed on.
+    /// Gives @p axis the stretch from @p from to @p to; null changes nothing, nor does this axis
+    /// itself or one that is made of it, which would have no end. A sub-axis that starts at the
+    /// same place is replaced, but its signals are still passed on.
     ///
     /// Emits minValueChanged(), maxValueChanged(), parametersChanged() and ticksUpdated().
     /// @return this axis, for chaining
@@ -152,6 +153,7 @@ private:
     using Map = std::map<double, Value, KeyOrder>;
     struct AggregateScrollScaleState;
 
+    bool isPartOf(const Axis* axis) const;
     void connectTo(SubAxisEntry& entry);
     void emitLimitsAndParameters();
     QVector<Tick> handleTicks(bool major) const;

@@ -88,6 +88,8 @@ private Q_SLOTS:
     void onTicksUpdated();
 
 private:
+    friend class AggregateAxis; // Looks whether it would hold itself.
+
     void updateTicks();
     static QVector<Tick> tickHelper(const QVector<Tick>& ticks);
     Tick jointTick() const;

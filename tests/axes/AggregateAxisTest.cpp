@@ -58,6 +58,19 @@ TEST(EmptyAggregateAxisTest, AnswersWithoutNumbers)
     EXPECT_EQ(log.take(), "");
 }
 
+TEST(EmptyAggregateAxisTest, NeverHoldsItself)
+{
+    AggregateAxis axis, outer;
+    MirroredAxis mirror(&axis);
+    outer.addAxis(&mirror, 0.0, 1.0);
+    SignalLog log(&axis);
+    for (Axis* const endless :
+         {static_cast<Axis*>(&axis), static_cast<Axis*>(&mirror), static_cast<Axis*>(&outer)})
+        EXPECT_EQ(&axis.addAxis(endless, 0.0, 1.0), &axis);
+    EXPECT_EQ(log.take(), "");
+    EXPECT_TRUE(std::isnan(axis.minValue()));
+}
+
 TEST_F(AggregateAxisTest, BothSignsShareOneLine)
 {
     EXPECT_EQ(bipolar.minValue(), -100.0);
