@@ -76,7 +76,7 @@ double SplineAlgorithm<Iterator>::operator[](const double& index)
 {
     if (!covers(index))
         throw utilities::InvalidIndexException(QStringLiteral("SplineAlgorithm::operator[]"), index,
-                                               0.0, static_cast<double>(m_count - 1));
+                                               0.0, static_cast<double>(m_count) - 1.0);
     const int interval = intervalAt(index);
     if (interval != m_interval)
         selectInterval(interval);
@@ -87,14 +87,14 @@ template<typename Iterator>
 bool SplineAlgorithm<Iterator>::covers(double index) const
 {
     const int interval = intervalAt(index);
-    return interval >= 0 && interval < m_count - 1;
+    return interval >= 0 && interval + 1LL < m_count;
 }
 
 template<typename Iterator>
 boost::shared_ptr<Subsampler> SplineAlgorithm<Iterator>::tail(long long start)
 {
     return boost::make_shared<SplineAlgorithm<Iterator>>(m_begin + start,
-                                                         std::max(m_count - start, 0LL));
+                                                         std::max(m_count, start) - start);
 }
 
 template<typename Iterator>
