@@ -6,6 +6,7 @@
 
 #include "tests/support/Builders.h"
 #include "tests/support/Dice.h"
+#include "tests/support/Seeds.h"
 
 #include <boost/multiprecision/cpp_dec_float.hpp>
 #include <gtest/gtest.h>
@@ -185,7 +186,7 @@ TEST(AccuracyTest, ErrorsStayWithinTheBoundsOfTheHeaders)
     };
     const int cases = qEnvironmentVariableIsSet("KESTRANE_CASES")
                           ? qEnvironmentVariableIntValue("KESTRANE_CASES")
-                          : 200;
+                          : int(usualCases(200));
     std::cout << "| Operation | Largest error | Bound | In ulp of |\n|---|---|---|---|\n";
     for (const auto& row : rows) {
         Dice dice(0u);

@@ -10,13 +10,13 @@
 
 namespace tests {
 
-/// Looks whether a law holds in random cases: 300 of them, or as many as the environment has for
-/// KESTRANE_CASES, from the seed KESTRANE_SEED on.
+/// Looks whether a law holds in random cases: 300 of them as a rule, or as many as the environment
+/// has for KESTRANE_CASES, from the seed KESTRANE_SEED on.
 template<typename Law>
 void hold(Law law)
 {
     const int cases = qEnvironmentVariableIntValue("KESTRANE_CASES");
-    const Seeds seeds(cases > 0 ? unsigned(cases) : 300u);
+    const Seeds seeds(cases > 0 ? unsigned(cases) : usualCases(300));
     for (unsigned seed = seeds.first; seed != seeds.end; ++seed) {
         Dice dice(seed);
         law(dice);

@@ -18,7 +18,7 @@ using pelorin::backend::PlotSegment;
 TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
 {
     Seen seen;
-    const Seeds seeds(4000);
+    const Seeds seeds(usualCases(4000));
     for (unsigned seed = seeds.first; seed < seeds.end && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         Dice dice(seed);
@@ -99,7 +99,7 @@ TEST(SamplePlotDifferentialTest, AgreesWhereShortcutsAreHardToTake)
 TEST(XYAndNeedlesDifferentialTest, AgreeWithThePlainRulesBitForBit)
 {
     Seen seen;
-    const Seeds seeds(4000);
+    const Seeds seeds(usualCases(4000));
     for (unsigned seed = seeds.first; seed < seeds.end && !HasFailure(); ++seed) {
         SCOPED_TRACE(testing::Message() << "seed " << seed);
         Dice dice(seed);

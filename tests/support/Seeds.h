@@ -5,6 +5,17 @@
 
 namespace tests {
 
+/// How many cases to try where nobody asks for a number: a third without optimization, which is
+/// what sanitizers run, and slowly.
+constexpr unsigned usualCases(unsigned count)
+{
+#if defined(__OPTIMIZE__)
+    return count;
+#else
+    return count / 3;
+#endif
+}
+
 /// The seeds of a random test, [first, end): @p count from 0 on, or from what the environment has
 /// for KESTRANE_SEED.
 struct Seeds
