@@ -24,8 +24,8 @@ TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
         Dice dice(seed);
         compareSamplePlots(dice, seen);
     }
-    EXPECT_GT(seen.of["polylines"], 2000u);
-    EXPECT_GT(seen.of["symbols"], 2000u);
+    EXPECT_GT(seen.of["polylines"], usualCases(2000));
+    EXPECT_GT(seen.of["symbols"], usualCases(2000));
     EXPECT_EQ(seen.axes.size(), 16u); // Every pair of linear, logarithmic, mirrored and aggregate.
 }
 
@@ -106,9 +106,9 @@ TEST(XYAndNeedlesDifferentialTest, AgreeWithThePlainRulesBitForBit)
         compareXYPlots(dice, seen);
         compareNeedles(dice, seen);
     }
-    EXPECT_GT(seen.of["lines"], 2000u);
-    EXPECT_GT(seen.of["symbols"], 2000u);
-    EXPECT_GT(seen.of["needles"], 10000u);
-    EXPECT_GT(seen.of["throws"], 5u);
+    EXPECT_GT(seen.of["lines"], usualCases(2000));
+    EXPECT_GT(seen.of["symbols"], usualCases(2000));
+    EXPECT_GT(seen.of["needles"], usualCases(10000));
+    EXPECT_GT(seen.of["throws"], usualCases(5));
     EXPECT_EQ(seen.axes.size(), 16u); // Every pair of linear, logarithmic, mirrored and aggregate.
 }
