@@ -18,7 +18,7 @@ namespace {
 
 // Intervals that lie farther apart than this are solved one by one.
 constexpr int largestStep = 6;
-constexpr int stretchSize = 256;
+constexpr int stretchSize = detail::SplineCurvature::largestStretch;
 
 std::size_t checkedCount(long long count)
 {

@@ -18,8 +18,6 @@ constexpr std::size_t nearReach = 40;
 constexpr std::size_t farReach = 1280;
 constexpr std::size_t nearestBatchReach = 36;
 
-constexpr std::size_t largestStretch = 256;
-
 // Beyond this a step may overflow.
 constexpr double largestMagnitude = 1e307;
 
@@ -59,7 +57,7 @@ struct Walks
 // not meet.
 bool solve(const Stretch& stretch, const double* y, double* c)
 {
-    double d[largestStretch + farReach];
+    double d[SplineCurvature::largestStretch + farReach];
     Walks up(stretch.upwardStart);
     for (std::ptrdiff_t i = 1 - static_cast<std::ptrdiff_t>(stretch.left); i <= 0; ++i) {
         const double difference = secondDifference(y + i);
@@ -107,17 +105,9 @@ void SplineCurvature::write(std::size_t first, std::size_t count, double* c)
         c[--count] = 0.0;
     if (count == 0)
         return;
-    while (m_all.empty() && count > 0) {
-        const std::size_t size = std::min(count, largestStretch);
-        if (!solveStretch(first, size, c)) {
-            makePasses();
-            break;
-        }
-        first += size;
-        count -= size;
-        c += size;
-    }
-    if (count > 0)
+    if (m_all.empty() && !solveStretch(first, count, c))
+        makePasses();
+    if (!m_all.empty())
         std::copy_n(m_all.data() + first, count, c);
 }
 

@@ -33,7 +33,9 @@ public:
     /// @param magnitude the largest of the samples' absolute values
     SplineCurvature(const double* samples, std::size_t count, double magnitude);
 
-    /// c[@p first] and those after it. O(@p count) as a rule.
+    static constexpr std::size_t largestStretch = 256;
+
+    /// c[@p first] and those after it, 2 to largestStretch of them. O(@p count) as a rule.
     void write(std::size_t first, std::size_t count, double* c);
 
     /// The two coefficients of each of some intervals, c[i] and c[i+1], any order. Several at a
