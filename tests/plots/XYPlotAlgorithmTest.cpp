@@ -64,6 +64,8 @@ TEST(XYPlotAlgorithmTest, PointsBecomeColumnsLinesAndSymbols)
         {"-1.0 is no column", {-1.0, 0.5}, {1, 2}, {{{0.5, 1}, {0.5, 2}}}, {{{-1.0, 1}, {0.5, 2}}}},
         {"nor is it in between", {-1.5, -1.0, -0.5}, {1, 2, 3},
          {{{-1.5, 1}, {-0.5, 2}, {-0.5, 3}}}, {{{-1.5, 1}, {-1.0, 2}, {-0.5, 3}}}},
+        {"nor where symbols have ended", {0.0, 0.05, -1.5, -1.0, -0.5}, {1, 2, 3, 4, 5},
+         {{{0, 1}, {0, 2}, {-1.5, 3}, {-0.5, 4}, {-0.5, 5}}}, {}},
         {"NaN alone", {NaN, 0.5}, {1, NaN}, {}, {}},
     };
     // clang-format on
