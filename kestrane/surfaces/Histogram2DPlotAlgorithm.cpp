@@ -1,6 +1,7 @@
 #include "kestrane/surfaces/Histogram2DPlotAlgorithm.h"
 
 #include "kestrane/colors/detail/ColorLookup.h"
+#include "kestrane/library/detail/FreshMemory.h"
 #include "kestrane/surfaces/detail/CellGeometry.h"
 #include "kestrane/surfaces/detail/CellStrip.h"
 
@@ -84,6 +85,7 @@ private:
     void reserveRoom()
     {
         reserve(m_out.colors, m_width * m_height);
+        detail::preferLargePages(m_out.colors.data(), m_width * m_height * sizeof(QColor));
         if (m_mode != Histogram2DPlotAlgorithm::NoCounts)
             reserve(m_out.counts, m_width * m_height);
         m_classes.resize(m_width);
@@ -111,6 +113,7 @@ private:
         // An odd number of lines of the cache, in which powers of two would share their places.
         const std::size_t pitch = ((m_width + 7) / 8 | 1) * 8;
         const std::unique_ptr<double[]> values(new double[pitch * m_height]);
+        detail::preferLargePages(values.get(), pitch * m_height * sizeof(double));
         for (std::size_t x = 0; x < m_width; ++x) {
             backend::GridPosition<T> column = origin;
             column.move(0, m_xs[x]);

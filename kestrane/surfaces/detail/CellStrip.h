@@ -37,6 +37,7 @@ public:
         for (long long& edge : edges)
             edge -= m_begin;
         m_edges = std::move(edges);
+        m_line.resize(static_cast<std::size_t>(m_edges.back()));
     }
 
     /// Writes the values of all cells, @p stride places apart.
@@ -49,10 +50,13 @@ public:
         std::array<long long, 2> size{height, height};
         size[along] = m_edges.back();
         position.move(along, m_begin);
-        m_line.assign(static_cast<std::size_t>(size[along]), 0);
-        position.visitRows(size, [this](const T* samples, long long count, long long step) {
-            raise(m_line.data(), samples, count, step);
+        auto put = raiseZeros<T>;
+        position.visitRows(size, [&](const T* samples, long long count, long long step) {
+            put(m_line.data(), samples, count, step);
+            put = raise<T>;
         });
+        if (height <= 0)
+            std::fill(m_line.begin(), m_line.end(), T(0));
         const std::size_t count = m_edges.size() - 1;
         if (m_widest == 1) { // Nothing to compare: the whole line at a step.
             for (std::size_t k = 0; k < count; ++k)

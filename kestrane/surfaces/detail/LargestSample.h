@@ -36,17 +36,33 @@ T largestSample(const backend::GridPosition<T>& position, const std::array<long 
     return greater(other, largest);
 }
 
+/// Calls put(k, sample) for each of some samples, in their order.
+template<typename T, typename Put>
+void putEach(const T* samples, long long count, long long stride, Put put)
+{
+    if (stride == 1) { // A loop of its own: it takes several samples at a step.
+        for (long long k = 0; k < count; ++k)
+            put(k, samples[k]);
+    } else {
+        for (long long k = 0; k < count; ++k)
+            put(k, samples[k * stride]);
+    }
+}
+
 /// Raises each of some values to the sample in its place, unless that is less or NaN.
 template<typename T>
 void raise(T* __restrict values, const T* samples, long long count, long long stride)
 {
-    if (stride == 1) { // A loop of its own: it takes several samples at a step.
-        for (long long k = 0; k < count; ++k)
-            values[k] = greater(samples[k], values[k]);
-    } else {
-        for (long long k = 0; k < count; ++k)
-            values[k] = greater(samples[k * stride], values[k]);
-    }
+    putEach(samples, count, stride,
+            [values](long long k, T sample) { values[k] = greater(sample, values[k]); });
+}
+
+/// What raise() makes of zeros.
+template<typename T>
+void raiseZeros(T* __restrict values, const T* samples, long long count, long long stride)
+{
+    putEach(samples, count, stride,
+            [values](long long k, T sample) { values[k] = greater(sample, T(0)); });
 }
 
 } // namespace detail
