@@ -42,7 +42,7 @@ public:
 
     /// Writes the values of all cells, @p stride places apart.
     /// @param position of a sample at index 0 along the strip
-    /// @param height of the strip in samples
+    /// @param height of the strip in samples, at least 1
     void writeCells(backend::GridPosition<T> position, long long height, double* values,
                     std::size_t stride)
     {
@@ -55,8 +55,6 @@ public:
             put(m_line.data(), samples, count, step);
             put = raise<T>;
         });
-        if (height <= 0)
-            std::fill(m_line.begin(), m_line.end(), T(0));
         const std::size_t count = m_edges.size() - 1;
         if (m_widest == 1) { // Nothing to compare: the whole line at a step.
             for (std::size_t k = 0; k < count; ++k)
