@@ -22,6 +22,7 @@ BipolarAxis::BipolarAxis(double joint, double outer)
 {
     addAxis(new MirroredAxis(m_upper, this), 0.0, jointPosition);
     addAxis(m_upper, jointPosition, 1.0);
+    setAnchor(jointPosition);
 }
 
 double BipolarAxis::transform(ScaleMode mode, double value) const

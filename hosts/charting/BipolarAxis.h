@@ -23,7 +23,7 @@ namespace hosts::charting {
 /// There is no place for the values nearer to zero than the joint, zero itself included: an
 /// AggregateAxis asks one of its sub-axes, whose answer lies outside its stretch or is infinite.
 /// For a signal that swings through zero that would be a stroke through the whole picture, so this
-/// class puts them on the joint. All else is as AggregateAxis does it.
+/// class puts them on the joint, which is the anchor too. All else is as AggregateAxis does it.
 class BipolarAxis : public pelorin::ui::chart::AggregateAxis
 {
 public:

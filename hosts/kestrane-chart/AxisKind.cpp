@@ -4,11 +4,14 @@
 #include "hosts/kestrane-chart/LinearKind.h"
 #include "hosts/kestrane-chart/LogKind.h"
 
+#include <algorithm>
 #include <map>
 
 namespace hosts::chart {
 
+using charting::ShownAxis;
 using charting::TickPlaces;
+using pelorin::ui::chart::Axis;
 
 namespace {
 
@@ -38,6 +41,23 @@ QStringList AxisKind::names()
 const AxisKind& AxisKind::named(const QString& name)
 {
     return *kinds().at(name);
+}
+
+ShownAxis AxisKind::divided(const ShownAxis& axis, int) const
+{
+    return axis;
+}
+
+Extent AxisKind::reach(const ShownAxis& home) const
+{
+    return {home.axis->inverseTransform(Axis::Linear, -home.visible),
+            home.axis->inverseTransform(Axis::Linear, 2.0 * home.visible)};
+}
+
+Extent AxisKind::room(const ShownAxis& axis, const Extent& reach) const
+{
+    return {std::min(axis.axis->transform(Axis::Linear, reach.low), 0.0),
+            std::max(axis.axis->transform(Axis::Linear, reach.high) - axis.visible, 0.0)};
 }
 
 } // namespace hosts::chart

@@ -48,6 +48,21 @@ public:
     virtual charting::ShownAxis forValues(const AxisOptions& axis,
                                           const std::optional<Extent>& data, const Curves& curves,
                                           int wanted) const = 0;
+
+    /// What @p axis shows, on an axis that is good to look at: a gesture leaves the number of
+    /// divisions as it is, whatever their size.
+    virtual charting::ShownAxis divided(const charting::ShownAxis& axis, int wanted) const;
+
+    /// Whether what @p axis shows can be read.
+    virtual bool isUsable(const charting::ShownAxis& axis) const = 0;
+
+    /// The values that gestures may go to, which leave @p home in reach: its own length beyond it
+    /// on either side.
+    virtual Extent reach(const charting::ShownAxis& home) const;
+
+    /// How far @p axis can be scrolled within @p reach, in axis space: the distance towards smaller
+    /// values, not above 0, and that towards larger ones.
+    virtual Extent room(const charting::ShownAxis& axis, const Extent& reach) const;
 };
 
 } // namespace hosts::chart

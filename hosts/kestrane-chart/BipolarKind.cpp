@@ -14,6 +14,7 @@ namespace hosts::chart {
 using charting::BipolarAxis;
 using charting::LogRange;
 using charting::ShownAxis;
+using pelorin::ui::chart::Axis;
 
 namespace {
 
@@ -34,6 +35,11 @@ Extent decadeThatFits(const AxisOptions& axis)
 {
     const double high = outerLimit(axis).value_or(axis.joint.value_or(0.1) * 10.0);
     return {axis.joint.value_or(high / 10.0), high};
+}
+
+LogRange rangeOf(const ShownAxis& axis)
+{
+    return {axis.axis->inverseTransform(Axis::Linear, axis.axis->anchor()), axis.axis->maxValue()};
 }
 
 // The joint and the outer limit.
@@ -88,6 +94,25 @@ ShownAxis BipolarKind::forValues(const AxisOptions& axis, const std::optional<Ex
                                  const Curves&, int wanted) const
 {
     return forAbscissas(axis, data, wanted);
+}
+
+bool BipolarKind::isUsable(const ShownAxis& axis) const
+{
+    return rangeOf(axis).isUsable();
+}
+
+Extent BipolarKind::reach(const ShownAxis& home) const
+{
+    const auto [joint, outer] = rangeOf(home);
+    return {joint * (joint / outer), outer * (outer / joint)};
+}
+
+Extent BipolarKind::room(const ShownAxis& axis, const Extent& reach) const
+{
+    const auto [joint, outer] = rangeOf(axis);
+    const double decade = (1.0 - axis.axis->anchor()) / std::log10(outer / joint);
+    return {std::min(std::log10(reach.low / joint) * decade, 0.0),
+            std::max(std::log10(reach.high / outer) * decade, 0.0)};
 }
 
 } // namespace hosts::chart

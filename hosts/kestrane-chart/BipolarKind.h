@@ -17,6 +17,13 @@ public:
                                      int wanted) const override;
     charting::ShownAxis forValues(const AxisOptions& axis, const std::optional<Extent>& data,
                                   const Curves& curves, int wanted) const override;
+    bool isUsable(const charting::ShownAxis& axis) const override;
+
+    /// Magnitudes.
+    Extent reach(const charting::ShownAxis& home) const override;
+
+    /// For a grip in the half above 0; below it the directions are the other way round.
+    Extent room(const charting::ShownAxis& axis, const Extent& reach) const override;
 };
 
 } // namespace hosts::chart

@@ -2,7 +2,6 @@
 
 #include "hosts/kestrane-chart/AxisKind.h"
 #include "hosts/kestrane-chart/PictureFile.h"
-#include "hosts/kestrane-chart/RawOptions.h"
 #include "hosts/kestrane-chart/UsageError.h"
 
 #include <kestrane/backend/QuantityManager.h>
@@ -101,7 +100,8 @@ void checkPixels(const QSize& size, double dpi)
 
 void checkFiles(const Options& options)
 {
-    PictureFile::formatOf(options.output);
+    if (!options.output.isEmpty())
+        PictureFile::formatOf(options.output);
     for (const QString& input : options.inputs) {
         if (QFileInfo(input).exists() && QFileInfo(input) == QFileInfo(options.output))
             throw UsageError(QStringLiteral("%1: would be overwritten by the picture").arg(input));
@@ -196,6 +196,21 @@ AxisOptions yOptionsOf(const RawOptions& raw)
     return y;
 }
 
+} // namespace
+
+bool readCommandLine(CLI::App& app, int argc, char** argv)
+{
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& success) { // The help or the version was asked for.
+        app.exit(success, std::cout, std::cerr);
+        return false;
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(text(error.what()) + QStringLiteral(" (see --help)"));
+    }
+    return true;
+}
+
 Options optionsOf(const RawOptions& raw)
 {
     checkNumbers(raw);
@@ -228,24 +243,6 @@ Options optionsOf(const RawOptions& raw)
     checkPixels(options.size, options.dpi);
     checkFiles(options);
     return options;
-}
-
-} // namespace
-
-std::optional<Options> readCommandLine(int argc, char** argv)
-{
-    CLI::App app("Draws measured data.", "kestrane-chart");
-    RawOptions raw;
-    raw.addTo(app);
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::Success& success) { // The help or the version was asked for.
-        app.exit(success, std::cout, std::cerr);
-        return std::nullopt;
-    } catch (const CLI::ParseError& error) {
-        throw UsageError(text(error.what()) + QStringLiteral(" (see --help)"));
-    }
-    return optionsOf(raw);
 }
 
 } // namespace hosts::chart

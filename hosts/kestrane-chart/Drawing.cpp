@@ -1,5 +1,6 @@
 #include "hosts/kestrane-chart/Drawing.h"
 
+#include "hosts/charting/ChartPainter.h"
 #include "hosts/charting/CrossingLabels.h"
 #include "hosts/charting/FontMeasure.h"
 #include "hosts/kestrane-chart/PictureFile.h"
@@ -98,8 +99,9 @@ ChartTexts textsOf(const AxisView& x, const AxisView& y, const Plot& plot, const
 // Vector formats have no pixels, but a surface has; they should not show.
 double surfaceScale(const Options& options)
 {
-    const bool isPng = PictureFile::formatOf(options.output) == PictureFile::Format::Png;
-    return isPng ? options.deviceScale() : std::max(options.deviceScale(), 2.0);
+    const bool hasPixels = options.output.isEmpty() || // On a screen.
+                           PictureFile::formatOf(options.output) == PictureFile::Format::Png;
+    return hasPixels ? options.deviceScale() : std::max(options.deviceScale(), 2.0);
 }
 
 } // namespace
@@ -126,6 +128,11 @@ Drawing Drawing::of(const Plot& plot, const charting::ShownAxis& xAxis,
     chart.crossings = plot.crossings(x, y);
     layout.crossings = charting::placeCrossings(chart, layout, measure);
     return {look, chart, layout};
+}
+
+void Drawing::paint(QPainter& painter, double deviceScale) const
+{
+    charting::ChartPainter(painter, look, deviceScale).paint(chart, layout);
 }
 
 } // namespace hosts::chart

@@ -6,6 +6,8 @@
 #include "hosts/charting/Look.h"
 #include "hosts/kestrane-chart/Recordings.h"
 
+class QPainter;
+
 namespace hosts::chart {
 
 class Plot;
@@ -20,6 +22,9 @@ struct Drawing
     /// Of a plot on axes as they are by now.
     static Drawing of(const Plot& plot, const charting::ShownAxis& xAxis,
                       const charting::ShownAxis& yAxis, const Options& options);
+
+    /// @param painter, deviceScale as charting::ChartPainter takes them
+    void paint(QPainter& painter, double deviceScale) const;
 
     charting::Look look;
     charting::Chart chart;

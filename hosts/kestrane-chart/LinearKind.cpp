@@ -63,4 +63,14 @@ ShownAxis LinearKind::forValues(const AxisOptions& axis, const std::optional<Ext
     return AxisDivision::of(bottom, top, wanted, m_places).shown();
 }
 
+ShownAxis LinearKind::divided(const ShownAxis& axis, int wanted) const
+{
+    return AxisDivision::of(axis.from(), axis.to(), wanted, m_places).shown();
+}
+
+bool LinearKind::isUsable(const ShownAxis& axis) const
+{
+    return AxisDivision::isUsableRange(axis.from(), axis.to());
+}
+
 } // namespace hosts::chart

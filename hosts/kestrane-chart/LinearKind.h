@@ -21,6 +21,8 @@ public:
                                      int wanted) const override;
     charting::ShownAxis forValues(const AxisOptions& axis, const std::optional<Extent>& data,
                                   const Curves& curves, int wanted) const override;
+    charting::ShownAxis divided(const charting::ShownAxis& axis, int wanted) const override;
+    bool isUsable(const charting::ShownAxis& axis) const override;
 
 private:
     charting::TickPlaces m_places;

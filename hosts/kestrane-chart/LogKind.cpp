@@ -76,4 +76,9 @@ ShownAxis LogKind::forValues(const AxisOptions& axis, const std::optional<Extent
     return axisFor(axis, LogRange::around(low, data->high).inDecades(), *data);
 }
 
+bool LogKind::isUsable(const ShownAxis& axis) const
+{
+    return LogRange{axis.from(), axis.to()}.isUsable();
+}
+
 } // namespace hosts::chart

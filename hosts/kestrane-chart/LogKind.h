@@ -18,6 +18,7 @@ public:
     /// Of values that span more than twelve decades the lower ones are left out.
     charting::ShownAxis forValues(const AxisOptions& axis, const std::optional<Extent>& data,
                                   const Curves& curves, int wanted) const override;
+    bool isUsable(const charting::ShownAxis& axis) const override;
 };
 
 } // namespace hosts::chart

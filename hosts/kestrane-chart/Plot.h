@@ -57,15 +57,15 @@ public:
     virtual QString xCaption() const { return {}; }
     virtual QString yCaption() const { return {}; }
 
+    /// The numbers of divisions to come near to.
+    int wantedXDivisions() const;
+    int wantedYDivisions() const;
+
 protected:
     Plot(const std::vector<data::Series>& series, const Options& options);
 
     const std::vector<data::Series>& series() const { return m_series; }
     const Options& options() const { return m_options; }
-
-    /// The numbers of divisions to come near to.
-    int wantedXDivisions() const;
-    int wantedYDivisions() const;
 
     /// The width of a device pixel on the axis.
     double columnWidth(const charting::AxisView& x, double plotWidth) const;

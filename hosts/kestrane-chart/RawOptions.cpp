@@ -11,7 +11,7 @@ namespace hosts::chart {
 
 namespace {
 
-constexpr auto footer = R"(Data
+constexpr auto chartGuide = R"(Data
   Tables (CSV, TSV) and sounds (WAV, FLAC, Ogg). Each column or channel becomes a curve. A missing
   number is a gap in its curve.
   --show slope draws the change from sample to sample over the distance of x; --show spectrum the
@@ -43,7 +43,9 @@ Kinds of axes
 Cursors
   A ring marks where a cursor crosses a curve within the picture, with the value of the curve as it
   is drawn: between two samples that of the spline, on a log or bipolar y axis of a straight line.
+)";
 
+constexpr auto pictureGuide = R"(
 Pictures
   The ending of the output's name says what it becomes. A picture of 1000x600 has as many pixels
   at 96 dpi, four times as many at 192; lettering and lines grow with it.
@@ -138,17 +140,16 @@ void addAxisOptions(CLI::App& app, RawOptions& raw)
     add("--y-relative", raw.yReference, "VALUE", "Label y by the distance from this value");
 }
 
-void addPictureOptions(CLI::App& app, RawOptions& raw)
+void addLookOptions(CLI::App& app, RawOptions& raw)
 {
     const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
-        return app.add_option(name, value, help)->type_name(type)->group("Picture");
+        return app.add_option(name, value, help)->type_name(type)->group("Look");
     };
-    add("-o,--output", raw.output, "FILE", "The picture: .png, .svg or .pdf")->required();
     add("--title", raw.title, "TEXT", "Headline");
     add("--legend", raw.legend, "NAME", "Name of a curve in place of its own; repeatable")
         ->allow_extra_args(false);
     app.add_flag("--no-legend", raw.noLegend, "No legend; else there is one for several curves")
-        ->group("Picture");
+        ->group("Look");
     add("--cursor", raw.cursors, "X",
         "Vertical line at X that tells the values of the curves there; repeatable")
         ->allow_extra_args(false);
@@ -156,7 +157,6 @@ void addPictureOptions(CLI::App& app, RawOptions& raw)
     add("--look", raw.look, "WHICH", "light, the default, or dark")
         ->check(CLI::IsMember({"light", "dark"}));
     add("--size", raw.size, "WxH", "Size in pixels at 96 dpi, default 1000x600");
-    add("--dpi", raw.dpi, "N", "Pixels in an inch, default 96");
 }
 
 } // namespace
@@ -164,17 +164,30 @@ void addPictureOptions(CLI::App& app, RawOptions& raw)
 void RawOptions::addTo(CLI::App& app)
 {
     app.formatter(std::make_shared<HelpFormatter>());
-    app.set_version_flag("--version", "kestrane-chart " KESTRANE_VERSION)->group("Other");
+    app.set_version_flag("--version", app.get_name() + " " KESTRANE_VERSION)->group("Other");
     app.set_help_flag("-h,--help", "Print this help and leave")->group("Other");
-    app.add_option("INPUT", inputs, "Recordings to draw into one chart")
-        ->required()
-        ->type_name("...");
-    addPictureOptions(app, *this);
+    app.add_option("INPUT", inputs, "Recordings to draw into one chart")->type_name("...");
+    addLookOptions(app, *this);
     addDataOptions(app, *this);
     addRangeOptions(app, *this);
     addAxisOptions(app, *this);
     surface.addTo(app);
-    app.footer(footer);
+}
+
+void RawOptions::addPictureTo(CLI::App& app)
+{
+    app.get_option("INPUT")->required();
+    const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
+        return app.add_option(name, value, help)->type_name(type)->group("Picture");
+    };
+    add("-o,--output", output, "FILE", "The picture: .png, .svg or .pdf")->required();
+    add("--dpi", dpi, "N", "Pixels in an inch, default 96");
+    app.footer(std::string(chartGuide) + pictureGuide);
+}
+
+const char* RawOptions::guide()
+{
+    return chartGuide;
 }
 
 } // namespace hosts::chart

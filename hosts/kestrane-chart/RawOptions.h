@@ -16,8 +16,14 @@ namespace hosts::chart {
 /// The options as they stand on the command line, before they are checked and put in order.
 struct RawOptions
 {
-    /// Tells @p app of all options, to be stored in this object, and of what its help says.
+    /// Tells @p app of the options of a chart, to be stored in this object.
     void addTo(CLI::App& app);
+
+    /// Tells it of those for a picture in a file too.
+    void addPictureTo(CLI::App& app);
+
+    /// What the help of a program says of charts.
+    static const char* guide();
 
     std::vector<std::string> inputs;
     std::string output;

@@ -2,69 +2,43 @@
 #include "hosts/kestrane-chart/CommandLine.h"
 #include "hosts/kestrane-chart/Drawing.h"
 #include "hosts/kestrane-chart/PictureFile.h"
-#include "hosts/kestrane-chart/UsageError.h"
+#include "hosts/kestrane-chart/Program.h"
 
 #include <kestrane/library/Kestrane.h>
 
 #include <QGuiApplication>
-#include <QTextCodec>
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
-#include <exception>
-#include <new>
-#include <string>
+#include <CLI/CLI.hpp>
 
 namespace {
 
 using namespace hosts;
 
-constexpr int failed = 1;
-constexpr int wronglyUsed = 2;
+constexpr auto programName = "kestrane-chart";
 
 void draw(const chart::Options& options)
 {
     const chart::PictureFile file(options.output, options.size, options.dpi,
                                   options.title.simplified());
     const chart::Drawing drawing = chart::Drawing::of(chart::Recordings::read(options), options);
-    file.write([&](QPainter& painter, double deviceScale) {
-        charting::ChartPainter(painter, drawing.look, deviceScale)
-            .paint(drawing.chart, drawing.layout);
-    });
-}
-
-// One line, whatever stands in the names of files.
-int complain(std::string message, int status)
-{
-    const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7f'; };
-    std::replace_if(message.begin(), message.end(), isControl, '?');
-    std::fprintf(stderr, "kestrane-chart: %s\n", message.c_str());
-    return status;
-}
-
-// What Qt has to say about its surroundings is not for the user of this program, unless Qt gives
-// up.
-void hearQt(QtMsgType type, const QMessageLogContext&, const QString& message)
-{
-    if (type == QtFatalMsg)
-        std::_Exit(complain(message.toStdString(), failed));
+    file.write([&](QPainter& painter, double deviceScale) { drawing.paint(painter, deviceScale); });
 }
 
 int run(int argc, char** argv)
 {
-    // Names of files and texts are UTF-8, also where the environment names no language.
-    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    const std::optional<chart::Options> options = chart::readCommandLine(argc, argv);
-    if (!options)
+    CLI::App app("Draws measured data.", programName);
+    chart::RawOptions raw;
+    raw.addTo(app);
+    raw.addPictureTo(app);
+    if (!chart::readCommandLine(app, argc, argv))
         return 0;
+    const chart::Options options = chart::optionsOf(raw);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // Nothing is shown on a screen.
-    qInstallMessageHandler(hearQt);
     int applicationArguments = 1;
     const QGuiApplication application(applicationArguments, argv);
     Kestrane::initialize();
-    draw(*options);
+    draw(options);
     Kestrane::deinitialize();
     return 0;
 }
@@ -73,13 +47,5 @@ int run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    try {
-        return run(argc, argv);
-    } catch (const chart::UsageError& error) {
-        return complain(error.what(), wronglyUsed);
-    } catch (const std::bad_alloc&) {
-        return complain("not enough memory", failed);
-    } catch (const std::exception& error) {
-        return complain(error.what(), failed);
-    }
+    return chart::runProgram(programName, [&] { return run(argc, argv); });
 }
