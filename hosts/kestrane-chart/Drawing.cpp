@@ -37,18 +37,6 @@ QString printable(QString text)
     return text;
 }
 
-// A unit that is to be written as it is, is a quantity of its own whose unit takes no prefix.
-QString quantityOf(const AxisOptions& axis)
-{
-    if (axis.unit.isEmpty())
-        return axis.quantity;
-    QString name = QStringLiteral("in ") + axis.unit;
-    Quantity::Unit unit;
-    unit.symbol = axis.unit;
-    Singleton<QuantityManager>::instance().add(Quantity(name, {unit}));
-    return name;
-}
-
 // The cursors as they were asked for, and where they stand.
 QVector<TickMark> cursorMarks(const AxisView& x, const QVector<double>& cursors)
 {
@@ -105,6 +93,17 @@ double surfaceScale(const Options& options)
 }
 
 } // namespace
+
+QString quantityOf(const AxisOptions& axis)
+{
+    if (axis.unit.isEmpty())
+        return axis.quantity;
+    QString name = QStringLiteral("in ") + axis.unit;
+    Quantity::Unit unit;
+    unit.symbol = axis.unit;
+    Singleton<QuantityManager>::instance().add(Quantity(name, {unit}));
+    return name;
+}
 
 Drawing Drawing::of(const Recordings& recordings, const Options& options)
 {

@@ -12,6 +12,10 @@ namespace hosts::chart {
 
 class Plot;
 
+/// What the labels of an axis write: a unit that is to be written as it is, is a quantity of its
+/// own whose unit takes no prefix.
+QString quantityOf(const AxisOptions& axis);
+
 /// A chart of some recordings, with its look and its layout: all that painting needs.
 struct Drawing
 {

@@ -1,0 +1,25 @@
+#ifndef HOSTS_KESTRANE_VIEWER_VIEWEROPTIONS_H
+#define HOSTS_KESTRANE_VIEWER_VIEWEROPTIONS_H
+
+#include "hosts/kestrane-chart/Options.h"
+
+#include <optional>
+
+namespace hosts::viewer {
+
+/// The whole command line.
+struct ViewerOptions
+{
+    /// Reads it.
+    /// @return nothing if it asked for the help or the version, which are printed then
+    /// @throws chart::UsageError
+    static std::optional<ViewerOptions> read(int argc, char** argv);
+
+    chart::Options chart; ///< Without inputs if there is nothing to open yet.
+    bool asksForLook = false;
+    bool asksForSize = false;
+};
+
+} // namespace hosts::viewer
+
+#endif
