@@ -17,6 +17,7 @@ namespace {
 // Minor ticks that are nearer to each other than that, on an average or any two, run together.
 constexpr double leastMeanDistance = 3.5;
 constexpr double leastDistance = 3.0;
+constexpr int linesAtATime = 16;
 
 // Ticks at the very same place count as one.
 double smallestDistance(const QVector<TickMark>& marks)
@@ -193,16 +194,11 @@ void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int
     const Curve& curve = chart.curves[index];
     const QColor color = m_look.curveColor(index);
     const auto toPicture = [&](const QPointF& point) { return layout.at(chart.placeOf(point)); };
-    QPen pen(color, m_look.curveWidth);
-    pen.setCapStyle(Qt::RoundCap);
-    pen.setJoinStyle(Qt::RoundJoin);
     for (const QVector<QPointF>& polyline : curve.polylines) {
         QVector<QPointF> points = polyline;
         std::transform(polyline.cbegin(), polyline.cend(), points.begin(), toPicture);
-        m_painter.setPen(pen);
-        m_painter.setBrush(Qt::NoBrush);
         for (const QVector<QPointF>& piece : clipPolyline(points, layout.plot))
-            m_painter.drawPolyline(piece.constData(), int(piece.size()));
+            paintLine(piece, color, layout.plot.width());
     }
     const auto paintMarks = [&](const QVector<QPointF>& points, double radius, const QColor& fill) {
         for (const QPointF& point : points) {
@@ -214,6 +210,28 @@ void ChartPainter::paintCurve(const Chart& chart, const ChartLayout& layout, int
     paintMarks(curve.loneSamples, m_look.dotRadius, color);
     for (const QVector<QPointF>& symbols : curve.symbols)
         paintMarks(symbols, m_look.symbolRadius, m_look.plotBackground);
+}
+
+// Pixels are filled as fast as one should hope only by lines of one pixel or less, and by few at a
+// time: the time for a line goes with the square of its points. Where there are so many that they
+// fill the plot anyway, nobody sees how wide each is.
+void ChartPainter::paintLine(const QVector<QPointF>& points, const QColor& color, double plotWidth)
+{
+    const bool isDense = points.size() > 2.0 * plotWidth * m_deviceScale;
+    const bool hasPixels = m_deviceScale > 0.0;
+    QPen pen(color, m_look.curveWidth);
+    if (hasPixels && isDense)
+        pen.setWidthF(std::min(m_look.curveWidth, 1.0 / m_deviceScale));
+    pen.setCapStyle(Qt::RoundCap);
+    pen.setJoinStyle(Qt::RoundJoin);
+    m_painter.setPen(pen);
+    m_painter.setBrush(Qt::NoBrush);
+    const int step = hasPixels ? linesAtATime : points.size();
+    int first = 0;
+    do {
+        m_painter.drawPolyline(&points[first], std::min(step + 1, points.size() - first));
+        first += step;
+    } while (first + 1 < points.size());
 }
 
 void ChartPainter::paintMark(const QPointF& centre, double radius, const QColor& color,

@@ -29,6 +29,7 @@ private:
     void paintColorBar(const ColorBar& bar, const ChartLayout& layout);
     void paintCurve(const Chart& chart, const ChartLayout& layout, int index);
     void paintMark(const QPointF& centre, double radius, const QColor& color, const QColor& fill);
+    void paintLine(const QVector<QPointF>& points, const QColor& color, double plotWidth);
     void paintCursors(const Chart& chart, const ChartLayout& layout);
     void paintCrossings(const Chart& chart, const ChartLayout& layout);
     void paintLegend(const Chart& chart, const ChartLayout& layout);

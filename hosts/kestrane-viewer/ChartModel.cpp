@@ -9,11 +9,11 @@
 
 namespace hosts::viewer {
 
-using charting::AxisView;
-using charting::ShownAxis;
 using chart::Draw;
 using chart::Options;
 using chart::Plot;
+using charting::AxisView;
+using charting::ShownAxis;
 using pelorin::backend::PlotSegment;
 using pelorin::ui::chart::Axis;
 
@@ -132,8 +132,7 @@ void ChartModel::savePicture(const QString& path)
     m_options.output = path;
     const chart::Drawing picture = drawing();
     m_options.output.clear();
-    file.write(
-        [&](QPainter& painter, double deviceScale) { picture.paint(painter, deviceScale); });
+    file.write([&](QPainter& painter, double deviceScale) { picture.paint(painter, deviceScale); });
 }
 
 long long ChartModel::samplesInView() const

@@ -20,7 +20,7 @@ constexpr double valueShare = 1e-3;
 
 QString signedText(double difference, const AxisView& labels, double share)
 {
-    const QString sign = difference < 0.0   ? QStringLiteral("−")
+    const QString sign = difference < 0.0   ? QStringLiteral("-")
                          : difference > 0.0 ? QStringLiteral("+")
                                             : QString();
     return sign + labels.textOf(std::abs(difference), share);
@@ -34,6 +34,7 @@ CursorTable::CursorTable(QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
     setAlternatingRowColors(true);
+    setSizeAdjustPolicy(AdjustToContents);
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &CursorTable::refresh);

@@ -26,6 +26,12 @@ public:
     /// Follows another chart; null for none. It has to outlive this or the next call.
     void setModel(ChartModel* model);
 
+    QSize sizeHint() const override 
+    {
+        return viewportSizeHint() + 2 * QSize(frameWidth(), frameWidth());
+    }
+    QSize minimumSizeHint() const override { return {100, 60}; }
+
     /// Reads all anew before the next event.
     void refreshSoon() { m_timer.start(); }
 

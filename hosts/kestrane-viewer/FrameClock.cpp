@@ -21,8 +21,8 @@ void FrameClock::request()
 {
     if (m_timer.isActive())
         return;
-    const int elapsed = m_sinceFrame.isValid() ? int(std::min<qint64>(m_sinceFrame.elapsed(), 1000))
-                                               : 1000;
+    const int elapsed =
+        m_sinceFrame.isValid() ? int(std::min<qint64>(m_sinceFrame.elapsed(), 1000)) : 1000;
     m_timer.start(std::max(refreshInterval() - elapsed, 0));
 }
 

@@ -5,8 +5,8 @@
 
 namespace hosts::viewer {
 
-using charting::ShownAxis;
 using chart::Extent;
+using charting::ShownAxis;
 using pelorin::ui::chart::Axis;
 
 namespace {
@@ -103,8 +103,8 @@ double MovableAxis::positionOf(double place) const
 }
 
 // Limits are kept here rather than by those of Axis, at which a scroll makes a range narrower, and
-// which know nothing of the part of an axis that is shown. Below an anchor that is not at its start,
-// an axis runs the other way.
+// which know nothing of the part of an axis that is shown. Below an anchor that is not at its
+// start, an axis runs the other way.
 void MovableAxis::scrollBy(double at, double by, const Grip& grip)
 {
     const bool runsDown = at < m_shown.axis->anchor();

@@ -27,6 +27,22 @@ QString milliseconds(qint64 nanoseconds)
     return QString::number(double(nanoseconds) * 1e-6, 'f', 2) + QStringLiteral(" ms");
 }
 
+// The chart's colours for what is around it.
+QPalette darkPalette()
+{
+    const charting::Look look = charting::Look::dark();
+    QPalette palette(look.background);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, look.text);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, look.faintText.darker());
+    palette.setColor(QPalette::Base, look.plotBackground);
+    palette.setColor(QPalette::AlternateBase, look.background);
+    palette.setColor(QPalette::Highlight, look.curveColor(0));
+    palette.setColor(QPalette::HighlightedText, look.background);
+    return palette;
+}
+
 QStringList filesOf(const QMimeData& data)
 {
     QStringList files;
@@ -152,7 +168,10 @@ void ViewerWindow::makeViewMenu()
     view->addSeparator();
     m_dark = view->addAction(tr("&Dark"));
     m_dark->setCheckable(true);
-    connect(m_dark, &QAction::toggled, this, &ViewerWindow::setDark);
+    connect(m_dark, &QAction::triggered, this, [this](bool isDark) {
+        QSettings().setValue(QStringLiteral("dark"), isDark);
+        setDark(isDark);
+    });
 }
 
 void ViewerWindow::makeStatusLine()
@@ -168,11 +187,11 @@ void ViewerWindow::readSettings()
     m_folder = settings.value(QStringLiteral("folder")).toString();
     if (!m_options.asksForLook)
         m_options.chart.isDark = settings.value(QStringLiteral("dark"), false).toBool();
-    m_dark->setChecked(m_options.chart.isDark);
+    setDark(m_options.chart.isDark);
     if (m_options.asksForSize ||
         !restoreGeometry(settings.value(QStringLiteral("geometry")).toByteArray()))
-        resize(m_options.chart.size + QSize(0, menuBar()->sizeHint().height() +
-                                                   statusBar()->sizeHint().height()));
+        resize(m_options.chart.size +
+               QSize(0, menuBar()->sizeHint().height() + statusBar()->sizeHint().height()));
 }
 
 void ViewerWindow::writeSettings() const
@@ -190,8 +209,7 @@ void ViewerWindow::setModel(std::unique_ptr<ChartModel> model)
     m_chart->setModel(std::move(model));
     const QStringList inputs =
         m_chart->model() ? m_chart->model()->options().inputs : QStringList();
-    m_message->setText(inputs.isEmpty() ? tr("Open a recording, or drop one here")
-                                        : QString());
+    m_message->setText(inputs.isEmpty() ? tr("Open a recording, or drop one here") : QString());
     QString title = m_options.chart.title;
     if (title.isEmpty() && !inputs.isEmpty())
         title = QFileInfo(inputs.first()).fileName() +
@@ -203,7 +221,8 @@ void ViewerWindow::setModel(std::unique_ptr<ChartModel> model)
 void ViewerWindow::setDark(bool isDark)
 {
     m_options.chart.isDark = isDark;
-    QSettings().setValue(QStringLiteral("dark"), isDark);
+    m_dark->setChecked(isDark);
+    setPalette(isDark ? darkPalette() : QPalette());
     if (!m_chart->model())
         return;
     m_chart->model()->setDark(isDark);

@@ -21,7 +21,8 @@ TEST(ViewerWindowTest, FilesAreOpenedAllTogetherOrNotAtAll)
     rig.window->open({rig.path("one.csv"), rig.path("two.csv")});
     rig.waitForFrame();
     EXPECT_EQ(rig.model().curveNames(), QStringList({"one: a", "two: b"}));
-    EXPECT_TRUE(rig.window->costs().startsWith("6 samples in view")) << rig.window->costs().toStdString();
+    EXPECT_TRUE(rig.window->costs().startsWith("6 samples in view"))
+        << rig.window->costs().toStdString();
     EXPECT_EQ(rig.window->message(), QString());
 
     rig.window->open({rig.path("one.csv"), rig.path("missing.csv")});
@@ -45,9 +46,8 @@ TEST(ViewerWindowTest, FilesCanBeDropped)
 TEST(ViewerWindowTest, EveryKindOfPlotCanBeMoved)
 {
     for (const char* plot : {"line", "xy", "needles", "histogram", "columns", "spectrogram"}) {
-        const QStringList column = plot == std::string("spectrogram")
-                                       ? QStringList{"--column", "value"}
-                                       : QStringList();
+        const QStringList column =
+            plot == std::string("spectrogram") ? QStringList{"--column", "value"} : QStringList();
         WindowRig rig(QStringList{"--plot", plot} + column);
         const QImage before = rig.chart().grab().toImage();
         rig.drag(rig.at(0.5, 0.5), rig.at(0.4, 0.6));
@@ -68,8 +68,8 @@ TEST(ViewerWindowTest, PicturesShowThePresentView)
         rig.window->savePicture(rig.path(name));
         EXPECT_GT(QFileInfo(rig.path(name)).size(), 1000) << name;
     }
-    EXPECT_EQ(QImage(rig.path("a.png")), rig.chart().grab().toImage().convertToFormat(
-                                             QImage(rig.path("a.png")).format()));
+    EXPECT_EQ(QImage(rig.path("a.png")),
+              rig.chart().grab().toImage().convertToFormat(QImage(rig.path("a.png")).format()));
     rig.window->savePicture(rig.path("a.jpg"));
     EXPECT_TRUE(rig.window->message().contains(".png")) << rig.window->message().toStdString();
     EXPECT_FALSE(QFileInfo(rig.path("a.jpg")).exists());
@@ -98,8 +98,8 @@ TEST(ViewerWindowTest, ManyChangesAreOneFrame)
 TEST(ViewerWindowTest, WrongOptionsAreSaidInOneLine)
 {
     EXPECT_ANY_THROW(WindowRig::options({"--plot", "pie"}));
-    EXPECT_ANY_THROW(WindowRig({"--cursor", "1", "--cursor", "2", "--cursor", "3", "--cursor", "4",
-                                "--cursor", "5"}));
+    EXPECT_ANY_THROW(WindowRig(
+        {"--cursor", "1", "--cursor", "2", "--cursor", "3", "--cursor", "4", "--cursor", "5"}));
     EXPECT_ANY_THROW(WindowRig({"--from", "2000", "--to", "3000"}));
 }
 
