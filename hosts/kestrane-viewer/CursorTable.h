@@ -26,7 +26,7 @@ public:
     /// Follows another chart; null for none. It has to outlive this or the next call.
     void setModel(ChartModel* model);
 
-    QSize sizeHint() const override 
+    QSize sizeHint() const override
     {
         return viewportSizeHint() + 2 * QSize(frameWidth(), frameWidth());
     }

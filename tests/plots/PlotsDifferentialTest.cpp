@@ -15,6 +15,14 @@ using namespace pelorin::ui::chart;
 using namespace tests;
 using pelorin::backend::PlotSegment;
 
+// What nobody has written is some large number from now on.
+static Q_NEVER_INLINE void fillStack()
+{
+    volatile double memory[8192];
+    for (volatile double& place : memory)
+        place = 1e300;
+}
+
 TEST(SamplePlotDifferentialTest, AgreesWithThePlainRulesBitForBit)
 {
     Seen seen;
@@ -66,6 +74,15 @@ TEST(SamplePlotDifferentialTest, AgreesWhereShortcutsAreHardToTake)
         {"a few beside them", 20000,
          [&](int i) { return i % 47 == 0 ? near(2.0, i) : i % 43 == 0 ? near(9.0, i) : 4.0; },
          0.0, 1.0, wide, decades, 1.0 / 256},
+        {"one beside them in a block", 20000,
+         [&](int i) {
+             const int at = i % 128, block = i / 128;
+             return at == 5    ? 9.0
+                    : at == 20 ? 2.0
+                    : at == 70 && block % 9 == 4 ? near(9.0, block)
+                    : at == 99 && block % 7 == 3 ? near(2.0, block) : 4.0;
+         },
+         0.0, 1.0, wide, decades, 1.0 / 16},
         {"a parabola", 20000, [](int i) { return double(i) * i; },
          0.0, 1.0, wide, linearAxis(4e8), 0.005},
         {"samples that share places", 4000, sine,
@@ -91,6 +108,7 @@ TEST(SamplePlotDifferentialTest, AgreesWhereShortcutsAreHardToTake)
         SamplePlotAlgorithm plot;
         plot.setSnapshot(data);
         for (int turn = 0; turn < 2; ++turn) { // Some of what the first one finds out is kept.
+            fillStack();
             const auto lists = plot.createSegments(row.xAxis, row.yAxis, row.columnWidth, 1.0);
             EXPECT_TRUE(same(exact(lists.first), expected.first)) << row.what;
             EXPECT_TRUE(same(exact(lists.second), expected.second)) << row.what;
