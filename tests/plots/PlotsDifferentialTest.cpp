@@ -83,6 +83,12 @@ TEST(SamplePlotDifferentialTest, AgreesWhereShortcutsAreHardToTake)
                     : at == 99 && block % 7 == 3 ? near(2.0, block) : 4.0;
          },
          0.0, 1.0, wide, decades, 1.0 / 16},
+        {"extremes at the ends of blocks", 20000,
+         [&](int i) {
+             const int at = i % 128, block = i / 128;
+             return at == 0 ? 90.0 - 0.01 * block : at == 127 ? 2.0 - 0.005 * block : 4.0;
+         },
+         0.0, 1.0, wide, linearAxis(99.0), 1.0 / 16},
         {"a parabola", 20000, [](int i) { return double(i) * i; },
          0.0, 1.0, wide, linearAxis(4e8), 0.005},
         {"samples that share places", 4000, sine,

@@ -88,8 +88,14 @@ TEST(SplineAlgorithmTest, OutsideItsRangeItRaisesAndStaysAsItIs)
 
 TEST(SplineAlgorithmTest, WhatIsNotFiniteSpreadsOverThreeOrMoreSamples)
 {
-    const std::vector<std::vector<double>> spoilt{
-        {NaN, 1}, {0, 1, NaN, 3, 4, 5}, {0, 1, 2, 3, Infinity}, {1e308, -1e308, 1e308, 0}};
+    std::vector<double> nearTheEnd;
+    for (int i = 0; i < 522; ++i)
+        nearTheEnd.push_back(i == 520 ? NaN : std::sin(i));
+    const std::vector<std::vector<double>> spoilt{{NaN, 1},
+                                                  {0, 1, NaN, 3, 4, 5},
+                                                  {0, 1, 2, 3, Infinity},
+                                                  {1e308, -1e308, 1e308, 0},
+                                                  nearTheEnd};
     for (const auto& samples : spoilt) {
         for (double index = 0.0; index < double(samples.size()) - 1.0; index += 0.25)
             EXPECT_TRUE(std::isnan(spline(samples)[index])) << index;
