@@ -33,6 +33,9 @@ public:
     /// Whether its ticks look well whatever the range, so that it can fit data closely.
     virtual bool suitsAnyRange() const { return false; }
 
+    /// Whether a distance of values has one length everywhere.
+    virtual bool isEven() const { return false; }
+
     /// Which values tell the range.
     virtual Extent::Measure measure() const = 0;
 

@@ -42,6 +42,13 @@ LinePlot::LinePlot(const std::vector<Series>& series, const Options& options)
         m_curves.push_back(std::make_shared<SampledCurve>(one.snapshot));
 }
 
+void LinePlot::setSeries(const std::vector<Series>& series)
+{
+    Plot::setSeries(series);
+    for (std::size_t k = 0; k < series.size(); ++k)
+        m_curves[k]->setSnapshot(series[k].snapshot);
+}
+
 ShownAxis LinePlot::xAxis() const
 {
     const AxisKind& kind = *options().x.kind;

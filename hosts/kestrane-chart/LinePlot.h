@@ -17,6 +17,7 @@ class LinePlot : public Plot
 public:
     LinePlot(const std::vector<data::Series>& series, const Options& options);
 
+    void setSeries(const std::vector<data::Series>& series) override;
     charting::ShownAxis xAxis() const override;
     charting::ShownAxis yAxis(const charting::AxisView& x) const override;
     QVector<charting::Curve> curves(const charting::AxisView& x, const charting::AxisView& y,

@@ -16,6 +16,7 @@ public:
 
     void check(const AxisOptions& axis) const override;
     bool suitsAnyRange() const override { return m_places == charting::TickPlaces::Moving; }
+    bool isEven() const override { return true; }
     Extent::Measure measure() const override;
     charting::ShownAxis forAbscissas(const AxisOptions& axis, const std::optional<Extent>& data,
                                      int wanted) const override;

@@ -25,6 +25,9 @@ public:
 
     virtual ~Plot() = default;
 
+    /// Takes what there is by now of the same series.
+    virtual void setSeries(const std::vector<data::Series>& series) { m_series = series; }
+
     /// An axis for x, that covers the data in what the options leave open.
     /// @throws WorkError if the options do not fit the data
     virtual charting::ShownAxis xAxis() const = 0;

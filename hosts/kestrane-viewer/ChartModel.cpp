@@ -54,9 +54,13 @@ long long samplesBetween(const PlotSegment& segment, double from, double to)
 } // namespace
 
 ChartModel::ChartModel(const Options& options)
+    : ChartModel(options, chart::Recordings::read(options))
+{}
+
+ChartModel::ChartModel(const Options& options, chart::Recordings recordings)
     : m_options(withoutRanges(options))
     , m_cursors(options.cursors)
-    , m_recordings(chart::Recordings::read(options))
+    , m_recordings(std::move(recordings))
     , m_plot(Plot::of(m_recordings, m_options))
     , m_x(m_plot->xAxis(), *options.x.kind)
     , m_y(yAxisOf(*m_plot, m_plot->xAxis()), *options.y.kind)
@@ -95,8 +99,11 @@ void ChartModel::setView(const View& view)
     m_y.restore(view.y);
 }
 
+// The values of all data are looked for only now, which takes its time.
 void ChartModel::goHome()
 {
+    if (!isSurface(m_options.draw))
+        m_y.setHome(yAxisOf(*m_plot, m_plot->xAxis()));
     m_x.goHome();
     m_y.goHome();
 }
@@ -104,6 +111,47 @@ void ChartModel::goHome()
 void ChartModel::fitY()
 {
     m_y.show(m_plot->yAxis(xView()));
+}
+
+void ChartModel::setSeries(std::vector<data::Series> series)
+{
+    m_recordings.series = std::move(series);
+    m_plot->setSeries(m_recordings.series);
+    m_x.setHome(m_plot->xAxis());
+}
+
+double ChartModel::lastAbscissa() const
+{
+    return chart::Extent::ofAbscissas(m_recordings.series, chart::Extent::asItIs)->high;
+}
+
+void ChartModel::showLast(double length)
+{
+    chart::AxisOptions asked = m_options.x;
+    asked.to = lastAbscissa();
+    asked.from = *asked.to - length;
+    m_x.show(asked.kind->forAbscissas(
+        asked, chart::Extent::ofAbscissas(m_recordings.series, asked.kind->measure()),
+        m_plot->wantedXDivisions()));
+}
+
+void ChartModel::scrollToLast()
+{
+    m_x.scrollToEnd(lastAbscissa());
+}
+
+void ChartModel::keepInSight()
+{
+    constexpr double leastShare = 0.2;
+    const ShownAxis& y = m_y.shown();
+    const auto values = chart::Extent::ofValues(m_recordings.series, m_x.shown().from(),
+                                                m_x.shown().to(), m_options.y.kind->measure());
+    if (!values)
+        return;
+    const double low = y.axis->transform(Axis::Linear, values->low) / y.visible;
+    const double high = y.axis->transform(Axis::Linear, values->high) / y.visible;
+    if (!(low >= 0.0 && high <= 1.0 && high - low >= leastShare))
+        fitY();
 }
 
 void ChartModel::setCanvas(const QSize& size, double deviceScale)

@@ -27,6 +27,9 @@ public:
     /// @throws what Recordings::read(), Plot::of() and Drawing::of() throw
     explicit ChartModel(const chart::Options& options);
 
+    /// Shows these recordings.
+    ChartModel(const chart::Options& options, chart::Recordings recordings);
+
     ChartModel(const ChartModel&) = delete; // The plot refers to the options.
     ChartModel& operator=(const ChartModel&) = delete;
 
@@ -43,6 +46,18 @@ public:
     /// Lets y cover what is to be seen on x.
     /// @throws chart::WorkError if there is nothing
     void fitY();
+
+    /// Takes what there is by now of the same series. All data are more then; the view stays.
+    void setSeries(std::vector<data::Series> series);
+
+    /// Shows a range of x of that length, at whose end the last sample is.
+    void showLast(double length);
+
+    /// Scrolls to the last sample.
+    void scrollToLast();
+
+    /// As fitY(), but only if values in sight are out of sight on y or take up little of it.
+    void keepInSight();
 
     /// @param size in logical pixels
     /// @param deviceScale device pixels in one
@@ -80,6 +95,7 @@ public:
     charting::AxisView yDistances() const;
 
 private:
+    double lastAbscissa() const;
     void showAskedRanges(const chart::Options& options);
     void tellCurves(const MovableAxis& axis) const;
 

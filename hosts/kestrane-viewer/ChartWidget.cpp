@@ -102,6 +102,7 @@ void ChartWidget::goHome()
         return;
     leaveView();
     m_model->goHome();
+    Q_EMIT moved(true, true);
 }
 
 void ChartWidget::fitY()
@@ -113,6 +114,7 @@ void ChartWidget::fitY()
         m_model->fitY();
         m_history.leave(before);
         Q_EMIT historyChanged();
+        Q_EMIT fitted();
     } catch (const std::exception& error) {
         Q_EMIT failed(QString::fromUtf8(error.what()));
     }
@@ -342,6 +344,7 @@ void ChartWidget::drag(const QPointF& point)
         Q_EMIT cursorsChanged();
         return;
     }
+    Q_EMIT moved(m_drag->part & XAxis && !m_drag->scales, m_drag->part & YAxis);
     const auto move = m_drag->scales ? &MovableAxis::scale : &MovableAxis::scroll;
     if (m_drag->part & XAxis)
         (m_model->x().*move)(m_drag->x, place.x());
@@ -374,6 +377,7 @@ void ChartWidget::zoomAt(const QPointF& point, double factor)
         m_model->x().zoom(place.x(), factor);
     if (part & YAxis)
         m_model->y().zoom(place.y(), factor);
+    Q_EMIT moved(false, part & YAxis);
 }
 
 void ChartWidget::pinch(QPinchGesture* gesture)
@@ -392,6 +396,7 @@ void ChartWidget::scrollBySteps(double x, double y)
         m_model->x().scroll(m_model->x().gripAt(middle), middle - x * keyStep);
     if (y != 0.0)
         m_model->y().scroll(m_model->y().gripAt(middle), middle - y * keyStep);
+    Q_EMIT moved(x != 0.0, y != 0.0);
 }
 
 // Steps that follow each other quickly are undone together.
@@ -415,6 +420,7 @@ void ChartWidget::setView(const std::optional<View>& view)
         return;
     m_model->setView(*view);
     Q_EMIT historyChanged();
+    Q_EMIT moved(true, true);
 }
 
 void ChartWidget::updatePointer(const QPointF& point)

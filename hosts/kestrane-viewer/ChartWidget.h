@@ -47,6 +47,8 @@ public:
     void setModel(std::unique_ptr<ChartModel> model);
     ChartModel* model() { return m_model.get(); }
 
+    bool isDragging() const { return m_drag != nullptr; }
+
     const ViewHistory& history() const { return m_history; }
 
     /// Where the last frame had the plot, in this widget.
@@ -73,6 +75,10 @@ public Q_SLOTS:
 Q_SIGNALS:
     void framePainted(const hosts::viewer::ChartWidget::FrameCost& cost);
     void historyChanged();
+
+    /// Somebody moves x, y or both; zooming does not count as moving x.
+    void moved(bool x, bool y);
+    void fitted();
     void cursorsChanged();
     void failed(const QString& message);
 

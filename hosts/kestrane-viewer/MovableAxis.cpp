@@ -22,7 +22,7 @@ constexpr double leastLever = 0.05;
 MovableAxis::MovableAxis(const ShownAxis& home, const chart::AxisKind& kind)
     : m_shown{QSharedPointer<Axis>(home.axis->clone()), home.visible}
     , m_kind(kind)
-    , m_home(state())
+    , m_home(home)
     , m_reach(kind.reach(home))
 {}
 
@@ -90,11 +90,14 @@ void MovableAxis::show(const ShownAxis& other)
 
 void MovableAxis::setHome(const ShownAxis& home)
 {
-    const State present = state();
+    m_home = home;
     m_reach = m_kind.reach(home);
-    show(home);
-    m_home = state();
-    restore(present);
+}
+
+void MovableAxis::scrollToEnd(double value)
+{
+    const double at = m_shown.axis->transform(Axis::Linear, value);
+    m_shown.axis->scrollAxis(positionOf(1.0), at - m_shown.visible, state().axis);
 }
 
 double MovableAxis::positionOf(double place) const

@@ -63,10 +63,13 @@ public:
     /// Shows what an axis of the same kind shows.
     void show(const charting::ShownAxis& other);
 
-    void goHome() { restore(m_home); }
+    void goHome() { show(m_home); }
 
-    /// Sets what goHome() shows and how far gestures go.
+    /// Sets what goHome() shows and how far gestures go. The axis stays as it is.
     void setHome(const charting::ShownAxis& home);
+
+    /// Scrolls, however far, until the plot ends at a value.
+    void scrollToEnd(double value);
 
 private:
     double positionOf(double place) const;
@@ -75,7 +78,7 @@ private:
 
     charting::ShownAxis m_shown;
     const chart::AxisKind& m_kind;
-    State m_home;
+    charting::ShownAxis m_home;
     chart::Extent m_reach;
 };
 

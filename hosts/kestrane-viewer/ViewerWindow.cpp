@@ -80,6 +80,20 @@ ViewerWindow::ViewerWindow(const ViewerOptions& options)
     if (!m_options.chart.inputs.isEmpty())
         model = std::make_unique<ChartModel>(m_options.chart);
     setModel(std::move(model));
+    if (!m_options.live.isEmpty())
+        startLive();
+}
+
+ViewerWindow::~ViewerWindow() = default;
+
+void ViewerWindow::startLive()
+{
+    m_feed = std::make_unique<LiveFeed>(m_options, *m_chart,
+                                        [this](auto model) { setModel(std::move(model)); });
+    connect(m_feed.get(), &LiveFeed::progressed, m_message, &QLabel::setText);
+    connect(m_feed.get(), &LiveFeed::followingChanged, m_follow, &QAction::setChecked);
+    m_follow->setChecked(true);
+    updateActions();
 }
 
 void ViewerWindow::open(const QStringList& paths)
@@ -92,6 +106,8 @@ void ViewerWindow::open(const QStringList& paths)
         setModel(std::make_unique<ChartModel>(options));
         m_options.chart = options;
         m_folder = QFileInfo(paths.first()).absolutePath();
+        m_feed.reset();
+        updateActions();
     } catch (const std::exception& error) {
         complain(QString::fromUtf8(error.what()));
     }
@@ -165,6 +181,13 @@ void ViewerWindow::makeViewMenu()
     view->addAction(tr("&Fit y\tF"), m_chart, &ChartWidget::fitY);
     view->addAction(tr("Zoom &in\t+"), m_chart, &ChartWidget::zoomIn);
     view->addAction(tr("Zoom &out\t−"), m_chart, &ChartWidget::zoomOut);
+    m_follow = view->addAction(tr("Fo&llow live data"));
+    m_follow->setShortcut(Qt::Key_Space);
+    m_follow->setCheckable(true);
+    connect(m_follow, &QAction::toggled, this, [this](bool isFollowing) {
+        if (m_feed)
+            m_feed->setFollowing(isFollowing);
+    });
     view->addSeparator();
     m_dark = view->addAction(tr("&Dark"));
     m_dark->setCheckable(true);
@@ -262,6 +285,7 @@ void ViewerWindow::updateActions()
     m_save->setEnabled(model);
     m_undo->setEnabled(m_chart->history().canUndo());
     m_redo->setEnabled(m_chart->history().canRedo());
+    m_follow->setEnabled(m_feed != nullptr);
     m_addCursor->setEnabled(model && model->canAddCursor());
     m_removeCursors->setEnabled(model && !model->cursors().isEmpty());
 }

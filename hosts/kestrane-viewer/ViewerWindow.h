@@ -3,6 +3,7 @@
 
 #include "hosts/kestrane-viewer/ChartWidget.h"
 #include "hosts/kestrane-viewer/CursorTable.h"
+#include "hosts/kestrane-viewer/LiveFeed.h"
 #include "hosts/kestrane-viewer/ViewerOptions.h"
 
 #include <QMainWindow>
@@ -25,6 +26,7 @@ public:
     /// Opens what @p options name.
     /// @throws what ChartModel throws
     explicit ViewerWindow(const ViewerOptions& options);
+    ~ViewerWindow() override;
 
     ChartWidget& chart() { return *m_chart; }
     CursorTable& cursorTable() { return *m_table; }
@@ -35,6 +37,9 @@ public:
 
     /// Writes the chart into a file, or says why not.
     void savePicture(const QString& path);
+
+    /// What brings live data; null if there are none.
+    LiveFeed* feed() { return m_feed.get(); }
 
     /// What the status line tells.
     QString message() const;
@@ -49,6 +54,7 @@ private:
     void makeMenus();
     void makeViewMenu();
     void makeStatusLine();
+    void startLive();
     void readSettings();
     void writeSettings() const;
     void setModel(std::unique_ptr<ChartModel> model);
@@ -67,7 +73,9 @@ private:
     QDockWidget* m_tableDock;
     QLabel* m_message;
     QLabel* m_costs;
+    std::unique_ptr<LiveFeed> m_feed;
     QAction* m_save = nullptr;
+    QAction* m_follow = nullptr;
     QAction* m_undo = nullptr;
     QAction* m_redo = nullptr;
     QAction* m_dark = nullptr;
