@@ -26,6 +26,21 @@ void takeAbscissas(std::optional<Extent>& extent, const PlotSegment& segment,
         Extent::widen(extent, measure(abscissaOf(segment, std::clamp(index, 0.0, last))));
 }
 
+// Of millions of samples, without a decision for each. Not if some are infinite.
+bool takePlain(std::optional<Extent>& extent, const double* begin, const double* end)
+{
+    double low = *begin, high = *begin;
+    for (const double* sample = begin; sample != end; ++sample) {
+        low = *sample < low ? *sample : low;
+        high = *sample > high ? *sample : high;
+    }
+    if (!std::isfinite(low) || !std::isfinite(high))
+        return false;
+    Extent::widen(extent, low);
+    Extent::widen(extent, high);
+    return true;
+}
+
 void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, double from, double to,
                 Extent::Measure measure)
 {
@@ -37,8 +52,11 @@ void takeValues(std::optional<Extent>& extent, const PlotSegment& segment, doubl
     const auto ends = std::minmax({std::ceil(index(from)), std::floor(index(to))});
     const auto first = std::ptrdiff_t(std::clamp(ends.first, 0.0, last));
     const auto end = std::ptrdiff_t(std::clamp(ends.second, 0.0, last)) + 1;
-    for (auto sample = segment.begin + first; sample != segment.begin + end; ++sample)
-        Extent::widen(extent, measure(*sample));
+    const double* const samples = &*segment.begin;
+    if (measure == Extent::asItIs && takePlain(extent, samples + first, samples + end))
+        return;
+    for (std::ptrdiff_t k = first; k < end; ++k)
+        Extent::widen(extent, measure(samples[k]));
 }
 
 } // namespace

@@ -23,9 +23,8 @@ std::unique_ptr<data::LiveSource> sourceOf(const ViewerOptions& options)
 
 bool hasSamples(const std::vector<data::Series>& series)
 {
-    return std::any_of(series.begin(), series.end(), [](const data::Series& one) {
-        return !one.snapshot.segments.empty();
-    });
+    return std::any_of(series.begin(), series.end(),
+                       [](const data::Series& one) { return !one.snapshot.segments.empty(); });
 }
 
 } // namespace
@@ -76,9 +75,9 @@ void LiveFeed::poll()
     }
     m_timer.stop();
     const QString failure = m_source->failure();
-    Q_EMIT progressed(failure.isEmpty() ? tr("No more data after %1 rows")
-                                              .arg(QLocale().toString(m_rows))
-                                        : failure);
+    Q_EMIT progressed(failure.isEmpty()
+                          ? tr("No more data after %1 rows").arg(QLocale().toString(m_rows))
+                          : failure);
 }
 
 void LiveFeed::update(const data::LiveRecording& recording)

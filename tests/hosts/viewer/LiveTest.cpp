@@ -102,17 +102,19 @@ TEST(LiveWindowTest, NothingIsLostAndTheWindowGoesOnListening)
     qint64 longest = 0;
     QElapsedTimer beat;
     QTimer heart;
-    QObject::connect(&heart, &QTimer::timeout, [&] { longest = std::max(longest, beat.restart()); });
+    QObject::connect(&heart, &QTimer::timeout,
+                     [&] { longest = std::max(longest, beat.restart()); });
     beat.start();
     heart.start(1);
-    ASSERT_TRUE(waitFor([&] { return source.recording() && source.recording()->rows() >= enough; }));
+    ASSERT_TRUE(
+        waitFor([&] { return source.recording() && source.recording()->rows() >= enough; }));
+    ASSERT_TRUE(rig.chart().model());
+    EXPECT_NEAR(rig.view()[1] - rig.view()[0], 1.0, 1e-6);
     rig.key(Qt::Key_Home); // All in view, and the first look at all their values.
-    EXPECT_GT(rig.model().samplesInView(), enough);
+    EXPECT_GE(rig.model().samplesInView(), enough);
     EXPECT_LT(longest, 2000); // Milliseconds; a tenth of that is usual.
     RecordProperty("longestMilliseconds", int(longest));
 
-    ASSERT_TRUE(rig.chart().model());
-    EXPECT_NEAR(rig.view()[1] - rig.view()[0], 1.0, 1e-6);
     const std::vector<double> samples = samplesOf(source.recording()->series()[0]);
     ASSERT_GE(static_cast<long long>(samples.size()), enough);
     long long wrong = 0;
@@ -160,9 +162,14 @@ TEST(LiveWindowTest, ClosesAndOpensFilesWhileDataComeIn)
 
 TEST(LiveWindowTest, OptionsThatMakeNoSenseAreRefused)
 {
-    for (const QStringList& wrong :
-         {QStringList{"--plot", "xy"}, {"--plot", "histogram"}, {"--x-axis", "log"},
-          {"--from", "1"}, {"--seconds", "0"}, {"--rate", "nan"}, {"--show", "slope"}, {"a.csv"}})
+    for (const QStringList& wrong : {QStringList{"--plot", "xy"},
+                                     {"--plot", "histogram"},
+                                     {"--x-axis", "log"},
+                                     {"--from", "1"},
+                                     {"--seconds", "0"},
+                                     {"--rate", "nan"},
+                                     {"--show", "slope"},
+                                     {"a.csv"}})
         EXPECT_ANY_THROW(WindowRig::options(QStringList{"--live", "signal"} + wrong))
             << wrong.join(' ').toStdString();
 }
