@@ -83,6 +83,16 @@ TEST(SamplePlotDifferentialTest, AgreesWhereShortcutsAreHardToTake)
                     : at == 99 && block % 7 == 3 ? near(2.0, block) : 4.0;
          },
          0.0, 1.0, wide, decades, 1.0 / 16},
+        {"some beside them in the first block of a group", 20000,
+         [&](int i) {
+             const int at = i % 128, block = i / 128;
+             const bool hasExtremes = block % 39 == 2, hasNear = block % 16 == 0 && block % 39 > 19;
+             return at == 5 && hasExtremes    ? 9.0
+                    : at == 20 && hasExtremes ? 2.0
+                    : at == 70 && hasNear     ? near(9.0, block)
+                    : at == 99 && hasNear     ? near(2.0, block) : 4.0;
+         },
+         0.0, 1.0, wide, decades, 0.25},
         {"extremes at the ends of blocks", 20000,
          [&](int i) {
              const int at = i % 128, block = i / 128;

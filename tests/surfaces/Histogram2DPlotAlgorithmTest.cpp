@@ -85,7 +85,8 @@ TEST_F(Histogram2DPlotAlgorithmTest, ACellShowsItsLargestSample)
 TEST_F(Histogram2DPlotAlgorithmTest, DoublesCountWholeForColoursAndAsTheyAreOtherwise)
 {
     plot.setSnapshot(Grids<double>(
-        {row<double>({0.9, 6.99, -3.0, NaN, 1e30, Infinity}), row<double>({-1.0, NaN})}));
+        {row<double>({0.9, 6.99, -3.0, NaN, 1e30, Infinity}), row<double>({-1.0, NaN}),
+         grid<double>({2, 2}, Doubles(4, -0.0), {0.0, 1.0}, {0.0, 0.5})}));
     const auto segments = ask();
     EXPECT_EQ(doubles(segments.at(0).counts), (Doubles{0.9, 6.99, 0.0, 0.0, 1e30, Infinity}));
     const auto& colors = segments[0].colors;
@@ -93,6 +94,7 @@ TEST_F(Histogram2DPlotAlgorithmTest, DoublesCountWholeForColoursAndAsTheyAreOthe
               (std::vector<QColor>{none, low, none, none, top, top}));
     EXPECT_EQ(segments[0].maxCount, Infinity);
     EXPECT_EQ(segments.at(1).maxCount, 0.0);
+    EXPECT_FALSE(std::signbit(segments.at(2).counts.at(0)));
 }
 
 TEST_F(Histogram2DPlotAlgorithmTest, DoublesAreDrawnWhereThereAreAny)
