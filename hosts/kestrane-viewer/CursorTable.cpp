@@ -40,7 +40,7 @@ CursorTable::CursorTable(QWidget* parent)
     connect(&m_timer, &QTimer::timeout, this, &CursorTable::refresh);
 }
 
-void CursorTable::setModel(ChartModel* model)
+void CursorTable::follow(ChartModel* model)
 {
     m_registrations.clear();
     m_model = model;

@@ -24,7 +24,7 @@ public:
     explicit CursorTable(QWidget* parent = nullptr);
 
     /// Follows another chart; null for none. It has to outlive this or the next call.
-    void setModel(ChartModel* model);
+    void follow(ChartModel* model);
 
     QSize sizeHint() const override
     {

@@ -228,7 +228,7 @@ void ViewerWindow::setModel(std::unique_ptr<ChartModel> model)
 {
     if (model)
         model->setDark(m_options.chart.isDark);
-    m_table->setModel(model.get());
+    m_table->follow(model.get());
     m_chart->setModel(std::move(model));
     const QStringList inputs =
         m_chart->model() ? m_chart->model()->options().inputs : QStringList();
