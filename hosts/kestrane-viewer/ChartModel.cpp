@@ -75,12 +75,12 @@ ChartModel::ChartModel(const Options& options, chart::Recordings recordings)
     drawing(); // Throws here what it would throw in the midst of painting.
 }
 
-// Who waits for crossings hears of axes that move as of data that change.
-void ChartModel::tellCurves(const MovableAxis& axis) const
+// Who waits for crossings hears of axes that move as of data that change. A curve may hold an axis,
+// so that no axis may hold a curve.
+void ChartModel::tellCurves(const MovableAxis& axis)
 {
-    Axis* const moved = axis.shown().axis.data();
-    QObject::connect(moved, &Axis::parametersChanged, moved, [curves = crossedCurves()] {
-        for (const auto& curve : curves)
+    QObject::connect(axis.shown().axis.data(), &Axis::parametersChanged, &m_listener, [this] {
+        for (const auto& curve : crossedCurves())
             curve->axisMoved();
     });
 }

@@ -9,6 +9,7 @@
 #include "hosts/kestrane-viewer/MovableAxis.h"
 #include "hosts/kestrane-viewer/ViewHistory.h"
 
+#include <QObject>
 #include <QSize>
 #include <QVector>
 
@@ -97,7 +98,7 @@ public:
 private:
     double lastAbscissa() const;
     void showAskedRanges(const chart::Options& options);
-    void tellCurves(const MovableAxis& axis) const;
+    void tellCurves(const MovableAxis& axis);
 
     chart::Options m_options;
     QVector<double> m_cursors; // All of them; the options have those in sight.
@@ -105,6 +106,7 @@ private:
     std::unique_ptr<chart::Plot> m_plot;
     MovableAxis m_x;
     MovableAxis m_y;
+    QObject m_listener; // Ends the connections to the axes.
 };
 
 } // namespace hosts::viewer
