@@ -1,8 +1,10 @@
 # Each exported operation stands once on the list of what asks for memory or for the host's code, and
-# each that is said to be walked has a row.
+# each that is said to be walked has a row. Each that a host can call with an argument is among what
+# the tests of misuse call.
 cmake_minimum_required(VERSION 3.25)
 
 set(exported)
+set(exportedWithArguments)
 foreach(library IN ITEMS "${KESTRANE}" "${OMBREL}")
   execute_process(COMMAND "${NM}" -DC --defined-only "${library}"
     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
@@ -10,6 +12,7 @@ foreach(library IN ITEMS "${KESTRANE}" "${OMBREL}")
   string(REGEX REPLACE "operator\\[\\]" "operator@" symbols "${symbols}") # Brackets upset lists.
   string(REGEX MATCHALL "[0-9a-f]+ [TWu] (void )?(pelorin::|Kestrane::)[^\n]+" symbols "${symbols}")
   foreach(symbol IN LISTS symbols)
+    string(REGEX MATCH "\\(\\)( const)?$" hasNoArguments "${symbol}")
     set(before)
     while(NOT symbol STREQUAL before) # From the inside outwards.
       set(before "${symbol}")
@@ -20,6 +23,9 @@ foreach(library IN ITEMS "${KESTRANE}" "${OMBREL}")
       string(REGEX REPLACE " const$" "" symbol "${CMAKE_MATCH_0}")
       string(REPLACE " " "-" symbol "${symbol}")
       list(APPEND exported "${symbol}")
+      if(NOT hasNoArguments)
+        list(APPEND exportedWithArguments "${symbol}")
+      endif()
     endif()
   endforeach()
 endforeach()
@@ -34,6 +40,13 @@ set(rows)
 foreach(test IN LISTS tests)
   file(READ "${test}" text)
   string(APPEND rows "${text}")
+endforeach()
+
+file(GLOB tests "${ROOT}/tests/misuse/*Test.cpp")
+set(misuses)
+foreach(test IN LISTS tests)
+  file(READ "${test}" text)
+  string(APPEND misuses "${text}")
 endforeach()
 
 set(list "${ROOT}/tests/faults/operations.txt")
@@ -55,6 +68,12 @@ foreach(line IN LISTS lines)
     string(REPLACE "@" "[]" row "${operation}")
     string(FIND "${rows}" "\"${row}\"" alone)
     string(FIND "${rows}" "\"${row} " followed)
+    # Signals, operators and constructors come with the others.
+    if(NOT section STREQUAL "part" AND "${class}::${operation}" IN_LIST exportedWithArguments AND
+       NOT operation MATCHES "Changed$|^operator" AND NOT class MATCHES "(^|::)${operation}$" AND
+       NOT misuses MATCHES "[^A-Za-z0-9]${operation}[^A-Za-z0-9]")
+      message(SEND_ERROR "tests/misuse: nothing calls ${class}::${operation}")
+    endif()
     if(section STREQUAL "walked" AND alone EQUAL -1 AND followed EQUAL -1)
       message(SEND_ERROR "${list}: no row for ${class}::${row}")
     endif()

@@ -61,6 +61,11 @@ void oddLinearAxes()
             moving.setNumMajorDivisions(-7);
             askAll(moving);
             EXPECT_TRUE(fixed.majorTicks().isEmpty());
+            fixed.setScale(b);
+            fixed.setOffset(a);
+            fixed.setAnchor(b);
+            fixed.setOffsetIsAdded(a > b);
+            askAll(fixed);
         }
     });
 }
@@ -76,6 +81,25 @@ void oddLogAxes()
             askAll(axis);
         }
     }
+}
+
+struct Ranker : LinearAxis
+{
+    using Axis::updateRanking;
+};
+
+void oddRanks()
+{
+    for (const int count : {0, 1, 2, 3, 1000}) {
+        for (const double number : hardNumbers) {
+            QVector<Axis::Tick> ticks(count, Axis::Tick(number, number, number, {number}, true));
+            Ranker().updateRanking(ticks, true);
+            EXPECT_EQ(ticks.size(), count);
+        }
+    }
+    LinearAxis axis;
+    QObject::connect(&axis, &Axis::parametersChanged, &axis, [&] { axis.disconnect(); });
+    axis.update();
 }
 
 void oddGestures()
@@ -111,6 +135,8 @@ void deadParts()
         moveAll(*axis, axis->scrollScaleState());
     }
     EXPECT_TRUE(std::isnan(aggregate.transform(Axis::Linear, 2.0)));
+    aggregate.setAnchor(NaN);
+    EXPECT_TRUE(std::isnan(aggregate.anchor()));
     aggregate.removeAxis(nullptr).removeAxis(&aggregate).removeAllAxes().removeAllAxes();
     EXPECT_TRUE(std::isnan(aggregate.minValue()));
 }
@@ -193,6 +219,7 @@ void oddLabels()
         formatter.setLimitRangeCount(odd);
         formatter.setPreferredPrefix(odd);
         formatter.setPreferredUnit(odd);
+        formatter.setPreferredUnitSystem(odd < 0 ? QString() : QString(odd % 1000, 'x'));
         formatter.setQuantity(odd == 0 ? QString() : QStringLiteral("nobody knows it"));
         formatter.setSizeTemplate(QString());
         formatter.setOptions(TickFormatter::FormatterOptions(odd));
@@ -206,6 +233,7 @@ void oddLabels()
 
 const Misuse misuses[] = {{"linear axes of odd numbers", oddLinearAxes},
                           {"logarithmic axes of odd numbers", oddLogAxes},
+                          {"ticks of odd ranks", oddRanks},
                           {"gestures by odd numbers, with states of others", oddGestures},
                           {"parts that are missing or dead", deadParts},
                           {"axes changed inside their own signals", changedInsideItsSignals},

@@ -6,6 +6,7 @@
 #include "kestrane/library/Kestrane.h"
 #include "kestrane/plots/Intersectable.h"
 #include "kestrane/plots/NeedlePlotAlgorithm.h"
+#include "kestrane/plots/PointsBasedPlotHelper.h"
 #include "kestrane/plots/SamplePlotAlgorithm.h"
 #include "kestrane/plots/SplineAlgorithm.h"
 #include "kestrane/plots/XYPlotAlgorithm.h"
@@ -102,9 +103,26 @@ void oddSplines()
     const auto data = segment({1.0});
     EXPECT_THROW(Spline(data.begin, 1LL << 40), std::length_error);
     EXPECT_THROW(NeedlePlotAlgorithm::NeedleResult(-1), std::length_error);
+    for (const long long start : {0LL, 1LL, 1LL << 40, std::numeric_limits<long long>::max()})
+        EXPECT_TRUE(Spline(data.begin, 1).tail(start));
+    data.setSubsampler(nullptr);
     Spline moved(data.begin, 1);
     Spline target(std::move(moved));
     target = Spline(data.begin, 1);
+}
+
+void oddColumns()
+{
+    for (const double x : hardNumbers) {
+        pelorin::algo::MinMaxAverageAlgorithm column;
+        QVector<QPointF> points;
+        PointsBasedPlotHelper().flushMinMax(x, column, points);
+        EXPECT_TRUE(points.isEmpty());
+        for (const double value : hardNumbers)
+            column.put(value);
+        PointsBasedPlotHelper().flushMinMax(x, column, points);
+        EXPECT_LE(points.size(), 4);
+    }
 }
 
 void colourAll(const Grids<double>& grids, const QSharedPointer<const Axis>& axis,
@@ -123,12 +141,23 @@ void colourAll(const Grids<double>& grids, const QSharedPointer<const Axis>& axi
     needles.makeNeedles(axis, linearAxis(3.0), QColor(), QColor(), xPixel, yPixel);
 }
 
+struct Cells : GeometryBasedPlotAlgorithm
+{
+    using GeometryBasedPlotAlgorithm::buildGeometryList;
+};
+
 void oddPixels()
 {
     const auto hard = grid<double>({13, 1}, hardSamples()),
                row = grid<double>({1, 13}, hardSamples()), none = grid<double>({0, 0}, {}),
                plain = grid<double>({3, 3}, std::vector<double>(9));
     forHardPairs([&](double x, double y) {
+        const LinearAxis odd(x, y);
+        Cells::Geometry first{0.0, 0};
+        QList<Cells::Geometry> edges;
+        for (const Grid<double>& cells : {hard, none, plain})
+            Cells().buildGeometryList(cells, edges, first, &odd, x, 0);
+        EXPECT_LE(edges.size(), 16);
         colourAll(Grids<double>({hard, row, none, plain}), linearAxis(3.0), {}, x, y);
         colourAll(Grids<double>({plain}), nullptr, {}, x, y);
         colourAll(Grids<double>({plain}), QSharedPointer<LinearAxis>::create(x, y), {}, 0.1, 0.1);
@@ -148,6 +177,10 @@ void oddThresholds()
         builder.appendEntry(Qt::red, 5); // Moved from: it has no map.
     }
     EXPECT_EQ(map.numberOfClasses(), 5);
+    EXPECT_EQ(map.thresholdAtIndex(4), most - 1);
+    EXPECT_EQ(map.colorAtIndex(4), QColor());
+    for (const std::size_t count : {most, most - 1, std::size_t(0)})
+        EXPECT_EQ(map.mapToColor(count), map.isUnmatched(count) ? map.unmatchedColor() : QColor());
     for (const double factor : hardNumbers)
         colourAll(Grids<double>({grid<double>({13, 1}, hardSamples())}), linearAxis(13.0),
                   ColorMap(map, factor), 0.1, 0.1);
@@ -243,6 +276,7 @@ const Misuse misuses[] = {
     {"samples at odd places", oddAbscissas},
     {"plots on odd axes", oddAxesOfPlots},
     {"splines of odd sizes, asked at odd places", oddSplines},
+    {"columns of odd numbers", oddColumns},
     {"cells of odd pixels", oddPixels},
     {"colour maps of odd thresholds and factors", oddThresholds},
     {"callbacks that register, drop and fire", callbacksThatMeddle},
