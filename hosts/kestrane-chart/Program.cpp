@@ -34,7 +34,7 @@ int complain(std::string message, int status)
 void hearQt(QtMsgType type, const QMessageLogContext&, const QString& message)
 {
     if (type == QtFatalMsg)
-        std::_Exit(complain(message.toStdString(), failed));
+        std::_Exit(complain(message.simplified().toStdString(), failed));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "tests/hosts/viewer/WindowRig.h"
 
+#include <QGestureEvent>
+#include <QPinchGesture>
 #include <QSharedPointer>
 
 namespace hosts::viewer {
@@ -156,6 +158,24 @@ TEST_P(GesturesTest, DataStayInReachAndThereIsAlwaysSomethingToRead)
     }
     rig.key(Qt::Key_Home);
     expectView(rig.view(), home);
+}
+
+TEST_P(GesturesTest, APinchZoomsAsTheWheelDoes)
+{
+    const QPoint point = rig.at(0.7, 0.8);
+    const std::vector<double> home = rig.view();
+    rig.turnWheel(point, 1);
+    const std::vector<double> turned = rig.view();
+    rig.chart().undo();
+    rig.waitForFrame();
+    QPinchGesture pinch;
+    pinch.setCenterPoint(rig.chart().mapToGlobal(point));
+    pinch.setScaleFactor(1.15);
+    pinch.setChangeFlags(QPinchGesture::ScaleFactorChanged);
+    QGestureEvent event({&pinch});
+    QApplication::sendEvent(&rig.chart(), &event);
+    expectView(rig.view(), turned);
+    EXPECT_NE(rig.view(), home);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryKind, GesturesTest, testing::ValuesIn(anyKind));
