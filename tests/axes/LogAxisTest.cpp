@@ -162,7 +162,7 @@ TEST_F(LogAxisTest, ScalingKeepsTheSmallestValue)
     LogAxis turned(100.0, 1.0), small(0.1, 10.0), odd(2.0, 1000.0), half(2.0, 5.0);
     half.scaleAxis(0.5, -0.5, noBase, Lowest, 10.0);
     EXPECT_EQ(half.largest(), std::pow(10.0, std::log10(5.0 / 2.0) * 0.5) * 2.0);
-    half.scaleAxis(0.75, -1.0, noBase, Lowest, 4.0);
+    half.scaleAxis(0.9, -1.0, noBase, Lowest, 4.0);
     EXPECT_LT(half.largest(), 4.0);
     turned.scaleAxis(0.5, 0.25);
     EXPECT_EQ(turned.largest(), Highest); // No decades are beyond its limit.
