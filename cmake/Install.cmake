@@ -1,4 +1,4 @@
-# Headers, libraries and the package that find_package(Kestrane) looks for.
+# Headers, libraries and what find_package(Kestrane) and `pkg-config kestrane` look for.
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Kestrane")
@@ -16,3 +16,9 @@ install(FILES
   "${CMAKE_CURRENT_BINARY_DIR}/KestraneConfig.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/KestraneConfigVersion.cmake"
   DESTINATION "${package_dir}")
+
+# From where it lies to the prefix, so that the tree may be moved.
+set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+file(RELATIVE_PATH KESTRANE_PREFIX_FROM_PC "/prefix/${pc_dir}" "/prefix")
+configure_file(cmake/kestrane.pc.in "${CMAKE_CURRENT_BINARY_DIR}/kestrane.pc" @ONLY)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/kestrane.pc" DESTINATION "${pc_dir}")
