@@ -61,7 +61,6 @@ void ChartWidget::setModel(std::unique_ptr<ChartModel> model)
         for (MovableAxis* axis : {&m_model->x(), &m_model->y()})
             connect(axis->shown().axis.data(), &Axis::parametersChanged, this,
                     &ChartWidget::refresh);
-        m_model->setCanvas(size(), devicePixelRatioF());
     }
     refresh();
     Q_EMIT historyChanged();
@@ -98,26 +97,31 @@ void ChartWidget::redo()
 
 void ChartWidget::goHome()
 {
-    if (!m_model)
-        return;
-    leaveView();
-    m_model->goHome();
-    Q_EMIT moved(true, true);
+    if (changeView(&ChartModel::goHome))
+        Q_EMIT moved(true, true);
 }
 
 void ChartWidget::fitY()
 {
-    if (!m_model)
-        return;
-    try {
-        const View before = m_model->view();
-        m_model->fitY();
-        m_history.leave(before);
-        Q_EMIT historyChanged();
+    if (changeView(&ChartModel::fitY))
         Q_EMIT fitted();
+}
+
+bool ChartWidget::changeView(void (ChartModel::*change)())
+{
+    if (!m_model || m_drag)
+        return false;
+    const View before = m_model->view();
+    try {
+        (*m_model.*change)();
     } catch (const std::exception& error) {
         Q_EMIT failed(QString::fromUtf8(error.what()));
+        return false;
     }
+    m_burst.invalidate();
+    m_history.leave(before);
+    Q_EMIT historyChanged();
+    return true;
 }
 
 void ChartWidget::zoomIn()
@@ -189,6 +193,7 @@ bool ChartWidget::makeDrawing()
         return true;
     QElapsedTimer time;
     time.start();
+    m_model->setCanvas(size(), devicePixelRatioF());
     try {
         m_drawing = m_model->drawing();
     } catch (const std::exception& error) {
@@ -202,8 +207,6 @@ bool ChartWidget::makeDrawing()
 
 void ChartWidget::resizeEvent(QResizeEvent*)
 {
-    if (m_model)
-        m_model->setCanvas(size(), devicePixelRatioF());
     refresh();
 }
 
@@ -371,7 +374,7 @@ void ChartWidget::zoomAt(const QPointF& point, double factor)
     const Part part = partAt(point);
     if (!m_model || m_drag || part == Nothing)
         return;
-    leaveView(true);
+    leaveViewInSteps();
     const QPointF place = placeAt(point);
     if (part & XAxis)
         m_model->x().zoom(place.x(), factor);
@@ -390,7 +393,7 @@ void ChartWidget::scrollBySteps(double x, double y)
 {
     if (!m_model || m_drag)
         return;
-    leaveView(true);
+    leaveViewInSteps();
     constexpr double middle = 0.75; // Not where the halves of a bipolar axis meet.
     if (x != 0.0)
         m_model->x().scroll(m_model->x().gripAt(middle), middle - x * keyStep);
@@ -400,13 +403,10 @@ void ChartWidget::scrollBySteps(double x, double y)
 }
 
 // Steps that follow each other quickly are undone together.
-void ChartWidget::leaveView(bool isBurst)
+void ChartWidget::leaveViewInSteps()
 {
-    const bool goesOn = isBurst && m_burst.isValid() && m_burst.elapsed() < burstTime;
-    if (isBurst)
-        m_burst.start();
-    else
-        m_burst.invalidate();
+    const bool goesOn = m_burst.isValid() && m_burst.elapsed() < burstTime;
+    m_burst.start();
     if (goesOn && m_history.canUndo())
         return;
     m_history.leave(m_model->view());

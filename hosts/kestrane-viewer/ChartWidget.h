@@ -106,7 +106,8 @@ private:
     void zoomAt(const QPointF& point, double factor);
     void pinch(QPinchGesture* gesture);
     void scrollBySteps(double x, double y);
-    void leaveView(bool isBurst = false);
+    bool changeView(void (ChartModel::*change)());
+    void leaveViewInSteps();
     void setView(const std::optional<View>& view);
     void updatePointer(const QPointF& point);
     bool makeDrawing();

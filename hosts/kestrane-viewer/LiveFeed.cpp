@@ -6,6 +6,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 namespace hosts::viewer {
@@ -53,16 +54,24 @@ void LiveFeed::setFollowing(bool isFollowing)
     if (isFollowing == m_isFollowing)
         return;
     m_isFollowing = isFollowing;
-    if (isFollowing && m_chart.model()) {
-        m_followsY = true;
-        m_chart.model()->scrollToLast();
-        m_chart.model()->keepInSight();
-    }
+    m_followsY = m_followsY || isFollowing;
+    if (isFollowing)
+        follow();
     Q_EMIT followingChanged(isFollowing);
 }
 
-// The end is asked for first: what came before it is in the recording then.
 void LiveFeed::poll()
+{
+    try {
+        takeNews();
+    } catch (const std::exception& error) { // The chart stays as it is.
+        m_timer.stop();
+        Q_EMIT progressed(QString::fromUtf8(error.what()));
+    }
+}
+
+// The end is asked for first: what came before it is in the recording then.
+void LiveFeed::takeNews()
 {
     const bool hasEnded = m_source->hasEnded();
     const auto recording = m_source->recording();
@@ -78,6 +87,20 @@ void LiveFeed::poll()
     Q_EMIT progressed(failure.isEmpty()
                           ? tr("No more data after %1 rows").arg(QLocale().toString(m_rows))
                           : failure);
+}
+
+void LiveFeed::follow()
+{
+    ChartModel* const model = m_chart.model();
+    if (!model || m_chart.isDragging())
+        return;
+    try {
+        model->scrollToLast();
+        if (m_followsY)
+            model->keepInSight();
+    } catch (const std::exception& error) {
+        Q_EMIT progressed(QString::fromUtf8(error.what()));
+    }
 }
 
 void LiveFeed::update(const data::LiveRecording& recording)
@@ -97,11 +120,8 @@ void LiveFeed::update(const data::LiveRecording& recording)
         m_chart.model()->setSeries(std::move(series));
     }
     m_rows = rows;
-    if (m_isFollowing && !m_chart.isDragging()) {
-        m_chart.model()->scrollToLast();
-        if (m_followsY)
-            m_chart.model()->keepInSight();
-    }
+    if (m_isFollowing)
+        follow();
     m_chart.refresh();
     Q_EMIT progressed(tr("Live: %1 rows").arg(QLocale().toString(m_rows)));
 }

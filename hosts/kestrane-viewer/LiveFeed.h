@@ -38,6 +38,8 @@ Q_SIGNALS:
 
 private:
     void poll();
+    void takeNews();
+    void follow();
     void update(const data::LiveRecording& recording);
 
     ViewerOptions m_options;
