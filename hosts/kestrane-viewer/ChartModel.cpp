@@ -154,10 +154,14 @@ void ChartModel::keepInSight()
         fitY();
 }
 
-void ChartModel::setCanvas(const QSize& size, double deviceScale)
+bool ChartModel::setCanvas(const QSize& size, double deviceScale)
 {
+    const double dpi = 96.0 * deviceScale;
+    if (m_options.size == size && m_options.dpi == dpi)
+        return false;
     m_options.size = size;
-    m_options.dpi = 96.0 * deviceScale;
+    m_options.dpi = dpi;
+    return true;
 }
 
 chart::Drawing ChartModel::drawing()

@@ -62,7 +62,8 @@ public:
 
     /// @param size in logical pixels
     /// @param deviceScale device pixels in one
-    void setCanvas(const QSize& size, double deviceScale);
+    /// @return whether this is another one
+    bool setCanvas(const QSize& size, double deviceScale);
     void setDark(bool isDark) { m_options.isDark = isDark; }
 
     chart::Drawing drawing();

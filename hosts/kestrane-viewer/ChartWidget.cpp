@@ -193,7 +193,8 @@ bool ChartWidget::makeDrawing()
         return true;
     QElapsedTimer time;
     time.start();
-    m_model->setCanvas(size(), devicePixelRatioF());
+    if (m_model->setCanvas(size(), devicePixelRatioF()))
+        Q_EMIT cursorsChanged(); // There may be other digits by now.
     try {
         m_drawing = m_model->drawing();
     } catch (const std::exception& error) {
