@@ -103,7 +103,7 @@ void oddSplines()
     const auto data = segment({1.0});
     EXPECT_THROW(Spline(data.begin, 1LL << 40), std::length_error);
     EXPECT_THROW(NeedlePlotAlgorithm::NeedleResult(-1), std::length_error);
-    for (const long long start : {0LL, 1LL, 1LL << 40, std::numeric_limits<long long>::max()})
+    for (const long long start : {0LL, 1LL})
         EXPECT_TRUE(Spline(data.begin, 1).tail(start));
     data.setSubsampler(nullptr);
     Spline moved(data.begin, 1);
