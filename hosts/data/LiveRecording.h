@@ -37,9 +37,6 @@ public:
     /// Appended so far.
     long long rows() const;
 
-    double start() const { return m_start; }
-    double step() const { return m_step; }
-
     /// What there is by now, one for each column, also for one that has no samples yet. O(gaps).
     std::vector<Series> series() const;
 
