@@ -1,12 +1,19 @@
-# Headers, libraries and what find_package(Kestrane) and `pkg-config kestrane` look for.
+# Headers, libraries and what find_package(Kestrane) and `pkg-config kestrane` look for. Components
+# are what Packages.cmake makes packages of.
 include(CMakePackageConfigHelpers)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Kestrane")
 
-install(TARGETS ombrel EXPORT OmbrelTargets FILE_SET HEADERS)
-install(TARGETS kestrane EXPORT KestraneTargets FILE_SET HEADERS)
-install(EXPORT OmbrelTargets NAMESPACE Ombrel:: DESTINATION "${package_dir}")
-install(EXPORT KestraneTargets NAMESPACE Kestrane:: DESTINATION "${package_dir}")
+function(kestrane_install target namespace)
+  install(TARGETS ${target} EXPORT ${namespace}Targets
+    LIBRARY COMPONENT Runtime NAMELINK_COMPONENT Development
+    ARCHIVE COMPONENT Development
+    FILE_SET HEADERS COMPONENT Development)
+  install(EXPORT ${namespace}Targets NAMESPACE ${namespace}:: DESTINATION "${package_dir}"
+    COMPONENT Development)
+endfunction()
+kestrane_install(ombrel Ombrel)
+kestrane_install(kestrane Kestrane)
 
 configure_package_config_file(cmake/KestraneConfig.cmake.in
   "${CMAKE_CURRENT_BINARY_DIR}/KestraneConfig.cmake" INSTALL_DESTINATION "${package_dir}")
@@ -15,10 +22,14 @@ write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/KestraneConfigVers
 install(FILES
   "${CMAKE_CURRENT_BINARY_DIR}/KestraneConfig.cmake"
   "${CMAKE_CURRENT_BINARY_DIR}/KestraneConfigVersion.cmake"
-  DESTINATION "${package_dir}")
+  DESTINATION "${package_dir}" COMPONENT Development)
 
 # From where it lies to the prefix, so that the tree may be moved.
 set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH KESTRANE_PREFIX_FROM_PC "/prefix/${pc_dir}" "/prefix")
 configure_file(cmake/kestrane.pc.in "${CMAKE_CURRENT_BINARY_DIR}/kestrane.pc" @ONLY)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/kestrane.pc" DESTINATION "${pc_dir}")
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/kestrane.pc" DESTINATION "${pc_dir}"
+  COMPONENT Development)
+
+install(FILES README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/kestrane" COMPONENT Documentation)
+install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/kestrane" COMPONENT Documentation)

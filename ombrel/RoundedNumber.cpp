@@ -27,15 +27,16 @@ struct Decimal
 Decimal decimal(double number)
 {
     const QString text = QLocale::c().toString(number, 'e', QLocale::FloatingPointShortest);
-    const int mark = text.indexOf('e');
-    return {text.leftRef(mark).toDouble(), text.midRef(mark + 1).toInt()};
+    const auto mark = text.indexOf('e');
+    return {text.left(mark).toDouble(), text.mid(mark + 1).toInt()};
 }
 
 QString localDigits(const QByteArray& digits, const QLocale& locale)
 {
+    const ushort zero = QString(locale.zeroDigit()).at(0).unicode(); // A QChar before Qt 6.
     QString text;
     for (const char digit : digits)
-        text += QChar(locale.zeroDigit().unicode() + (digit - '0'));
+        text += QChar(zero + (digit - '0'));
     return text;
 }
 
@@ -43,10 +44,10 @@ void insertGroupMarks(QString& whole, const QLocale& locale)
 {
     // Nothing but a text tells the sizes: 3 digits, but 2 ahead of the last 3 in India, or none.
     const QStringList groups = locale.toString(1234567890).split(locale.groupSeparator());
-    const int count = groups.size();
+    const auto count = groups.size();
     if (count == 1)
         return;
-    int position = whole.size() - groups[count - 1].size();
+    auto position = whole.size() - groups[count - 1].size();
     for (; position > 0; position -= groups[count - 2].size())
         whole.insert(position, locale.groupSeparator());
 }
@@ -56,7 +57,7 @@ void insertGroupMarks(QString& whole, const QLocale& locale)
 RoundedNumber::RoundedNumber(double magnitude, int significantDigits)
 {
     const QByteArray text = QByteArray::number(magnitude, 'e', significantDigits - 1);
-    const int mark = text.indexOf('e');
+    const auto mark = text.indexOf('e');
     m_digits = text.left(mark).replace(".", "");
     m_exponent = text.mid(mark + 1).toInt();
     while (m_digits.endsWith('0'))

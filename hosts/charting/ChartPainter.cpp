@@ -229,7 +229,7 @@ void ChartPainter::paintLine(const QVector<QPointF>& points, const QColor& color
     const int step = hasPixels ? linesAtATime : points.size();
     int first = 0;
     do {
-        m_painter.drawPolyline(&points[first], std::min(step + 1, points.size() - first));
+        m_painter.drawPolyline(&points[first], std::min<int>(step + 1, points.size() - first));
         first += step;
     } while (first + 1 < points.size());
 }

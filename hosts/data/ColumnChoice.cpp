@@ -21,7 +21,7 @@ QString listOf(const QStringList& names)
     QStringList shown;
     for (const QString& name : names.mid(0, MostNamesListed))
         shown += quoted(name);
-    const int left = names.size() - shown.size();
+    const auto left = names.size() - shown.size();
     return shown.join(QLatin1String(", ")) +
            (left > 0 ? QStringLiteral(" and %1 more").arg(left) : QString());
 }

@@ -9,10 +9,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
-#include <CLI/CLI.hpp>
-
 #include <cmath>
-#include <iostream>
 #include <map>
 #include <string>
 #include <utility>
@@ -197,19 +194,6 @@ AxisOptions yOptionsOf(const RawOptions& raw)
 }
 
 } // namespace
-
-bool readCommandLine(CLI::App& app, int argc, char** argv)
-{
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::Success& success) { // The help or the version was asked for.
-        app.exit(success, std::cout, std::cerr);
-        return false;
-    } catch (const CLI::ParseError& error) {
-        throw UsageError(text(error.what()) + QStringLiteral(" (see --help)"));
-    }
-    return true;
-}
 
 Options optionsOf(const RawOptions& raw)
 {

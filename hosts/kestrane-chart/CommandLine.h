@@ -6,11 +6,6 @@
 
 namespace hosts::chart {
 
-/// Lets @p app read the command line.
-/// @return false if it asked for the help or the version, which are printed then
-/// @throws UsageError
-bool readCommandLine(CLI::App& app, int argc, char** argv);
-
 /// Options that are checked and in order.
 /// @throws UsageError
 Options optionsOf(const RawOptions& raw);

@@ -2,8 +2,10 @@
 
 #include "hosts/kestrane-chart/UsageError.h"
 
-#include <QTextCodec>
 #include <QtGlobal>
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+#include <QTextCodec>
+#endif
 
 #include <algorithm>
 #include <cstdio>
@@ -42,8 +44,10 @@ void hearQt(QtMsgType type, const QMessageLogContext&, const QString& message)
 int runProgram(const char* name, const std::function<int()>& work)
 {
     programName = name;
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
     // Names of files and texts are UTF-8, also where the environment names no language.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+#endif
     qInstallMessageHandler(hearQt);
     try {
         return work();

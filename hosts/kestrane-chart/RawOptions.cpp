@@ -1,10 +1,8 @@
 #include "hosts/kestrane-chart/RawOptions.h"
 
 #include "hosts/kestrane-chart/AxisKind.h"
+#include "hosts/kestrane-chart/OptionParser.h"
 
-#include <CLI/CLI.hpp>
-
-#include <memory>
 #include <utility>
 
 namespace hosts::chart {
@@ -70,119 +68,96 @@ std::vector<std::string> kindNames()
     return names;
 }
 
-// Says of an option only what to write behind it; the rest is in its description.
-class HelpFormatter : public CLI::Formatter
+void addDataOptions(OptionParser& parser, RawOptions& raw)
 {
-public:
-    HelpFormatter() { column_width(30); }
-
-    std::string make_option_opts(const CLI::Option* option) const override
-    {
-        const std::string type = option->get_type_name();
-        return type.empty() ? type : ' ' + type.substr(0, type.find(':'));
-    }
-};
-
-void addDataOptions(CLI::App& app, RawOptions& raw)
-{
-    const auto group = [](CLI::Option* option) { option->group("Data"); };
-    group(app.add_option("--column", raw.columns, "Column to draw, by name or number; repeatable")
-              ->allow_extra_args(false)
-              ->type_name("NAME"));
-    group(app.add_option("--channel", raw.channels, "Channel of a sound to draw; repeatable")
-              ->allow_extra_args(false)
-              ->type_name("N"));
-    group(app.add_option("--time-column", raw.timeColumn,
-                         "Column with the x values, or 'none' to count the rows")
-              ->type_name("NAME"));
-    group(app.add_option("--show", raw.show, "values, the default; slope or spectrum: see below")
-              ->check(CLI::IsMember({"values", "slope", "spectrum"}))
-              ->type_name("WHAT"));
-    group(
-        app.add_option("--plot", raw.plot, "Kind of plot, line by default: see below")
-            ->check(CLI::IsMember({"line", "xy", "needles", "histogram", "spectrogram", "columns"}))
-            ->type_name("KIND"));
-    group(app.add_option("--start", raw.start, "x of the first sample")->type_name("X"));
-    group(app.add_option("--step", raw.step, "Distance of the samples in x")->type_name("X"));
+    const auto add = [&](const OptionParser::Option& option) { parser.add("Data", option); };
+    add({"--column", &raw.columns, "NAME", "Column to draw, by name or number; repeatable"});
+    add({"--channel", &raw.channels, "N", "Channel of a sound to draw; repeatable"});
+    add({"--time-column", &raw.timeColumn, "NAME",
+         "Column with the x values, or 'none' to count the rows"});
+    add({"--show",
+         &raw.show,
+         "WHAT",
+         "values, the default; slope or spectrum: see below",
+         {"values", "slope", "spectrum"}});
+    add({"--plot",
+         &raw.plot,
+         "KIND",
+         "Kind of plot, line by default: see below",
+         {"line", "xy", "needles", "histogram", "spectrogram", "columns"}});
+    add({"--start", &raw.start, "X", "x of the first sample"});
+    add({"--step", &raw.step, "X", "Distance of the samples in x"});
 }
 
-void addRangeOptions(CLI::App& app, RawOptions& raw)
+void addRangeOptions(OptionParser& parser, RawOptions& raw)
 {
-    const auto add = [&](const char* name, std::optional<double>& value, const char* help) {
-        app.add_option(name, value, help)->type_name("VALUE")->group("Range");
-    };
-    add("--from", raw.from, "x at the left");
-    add("--to", raw.to, "x at the right");
-    add("--bottom", raw.bottom, "y at the bottom");
-    add("--top", raw.top, "y at the top");
+    const auto add = [&](const OptionParser::Option& option) { parser.add("Range", option); };
+    add({"--from", &raw.from, "VALUE", "x at the left"});
+    add({"--to", &raw.to, "VALUE", "x at the right"});
+    add({"--bottom", &raw.bottom, "VALUE", "y at the bottom"});
+    add({"--top", &raw.top, "VALUE", "y at the top"});
 }
 
-void addAxisOptions(CLI::App& app, RawOptions& raw)
+void addAxisOptions(OptionParser& parser, RawOptions& raw)
 {
-    const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
-        return app.add_option(name, value, help)->type_name(type)->group("Axes");
-    };
+    const auto add = [&](const OptionParser::Option& option) { parser.add("Axes", option); };
     for (const auto& [name, kind] :
          {std::pair("--x-axis", &raw.xKind), std::pair("--y-axis", &raw.yKind)})
-        add(name, *kind, "KIND", "linear, the default; fixed, log or bipolar: see below")
-            ->check(CLI::IsMember(kindNames()));
-    add("--x-joint", raw.xJoint, "VALUE", "Where the halves of a bipolar x axis meet");
-    add("--y-joint", raw.yJoint, "VALUE", "Where the halves of a bipolar y axis meet");
-    add("--x-caption", raw.xCaption, "TEXT", "What x is");
-    add("--y-caption", raw.yCaption, "TEXT", "What y is");
-    add("--x-quantity", raw.xQuantity, "NAME",
-        "Quantity of x, which gives the labels a unit and its prefixes");
-    add("--y-quantity", raw.yQuantity, "NAME", "Quantity of y");
-    add("--x-unit", raw.xUnit, "TEXT", "Unit of x to write as it is, in place of a quantity")
-        ->excludes("--x-quantity");
-    add("--y-unit", raw.yUnit, "TEXT", "Unit of y")->excludes("--y-quantity");
-    add("--x-relative", raw.xReference, "VALUE", "Label x by the distance from this value");
-    add("--y-relative", raw.yReference, "VALUE", "Label y by the distance from this value");
+        add({name, kind, "KIND", "linear, the default; fixed, log or bipolar: see below",
+             kindNames()});
+    add({"--x-joint", &raw.xJoint, "VALUE", "Where the halves of a bipolar x axis meet"});
+    add({"--y-joint", &raw.yJoint, "VALUE", "Where the halves of a bipolar y axis meet"});
+    add({"--x-caption", &raw.xCaption, "TEXT", "What x is"});
+    add({"--y-caption", &raw.yCaption, "TEXT", "What y is"});
+    add({"--x-quantity", &raw.xQuantity, "NAME",
+         "Quantity of x, which gives the labels a unit and its prefixes"});
+    add({"--y-quantity", &raw.yQuantity, "NAME", "Quantity of y"});
+    add({"--x-unit",
+         &raw.xUnit,
+         "TEXT",
+         "Unit of x to write as it is, in place of a quantity",
+         {},
+         "--x-quantity"});
+    add({"--y-unit", &raw.yUnit, "TEXT", "Unit of y", {}, "--y-quantity"});
+    add({"--x-relative", &raw.xReference, "VALUE", "Label x by the distance from this value"});
+    add({"--y-relative", &raw.yReference, "VALUE", "Label y by the distance from this value"});
 }
 
-void addLookOptions(CLI::App& app, RawOptions& raw)
+void addLookOptions(OptionParser& parser, RawOptions& raw)
 {
-    const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
-        return app.add_option(name, value, help)->type_name(type)->group("Look");
-    };
-    add("--title", raw.title, "TEXT", "Headline");
-    add("--legend", raw.legend, "NAME", "Name of a curve in place of its own; repeatable")
-        ->allow_extra_args(false);
-    app.add_flag("--no-legend", raw.noLegend, "No legend; else there is one for several curves")
-        ->group("Look");
-    add("--cursor", raw.cursors, "X",
-        "Vertical line at X that tells the values of the curves there; repeatable")
-        ->allow_extra_args(false);
-    add("--symbols", raw.symbols, "N", "Mark samples that are at least N pixels apart, default 8");
-    add("--look", raw.look, "WHICH", "light, the default, or dark")
-        ->check(CLI::IsMember({"light", "dark"}));
-    add("--size", raw.size, "WxH", "Size in pixels at 96 dpi, default 1000x600");
+    const auto add = [&](const OptionParser::Option& option) { parser.add("Look", option); };
+    add({"--title", &raw.title, "TEXT", "Headline"});
+    add({"--legend", &raw.legend, "NAME", "Name of a curve in place of its own; repeatable"});
+    parser.addFlag("Look", "--no-legend", raw.noLegend,
+                   "No legend; else there is one for several curves");
+    add({"--cursor", &raw.cursors, "X",
+         "Vertical line at X that tells the values of the curves there; repeatable"});
+    add({"--symbols", &raw.symbols, "N",
+         "Mark samples that are at least N pixels apart, default 8"});
+    add({"--look", &raw.look, "WHICH", "light, the default, or dark", {"light", "dark"}});
+    add({"--size", &raw.size, "WxH", "Size in pixels at 96 dpi, default 1000x600"});
 }
 
 } // namespace
 
-void RawOptions::addTo(CLI::App& app)
+void RawOptions::addTo(OptionParser& parser)
 {
-    app.formatter(std::make_shared<HelpFormatter>());
-    app.set_version_flag("--version", app.get_name() + " " KESTRANE_VERSION)->group("Other");
-    app.set_help_flag("-h,--help", "Print this help and leave")->group("Other");
-    app.add_option("INPUT", inputs, "Recordings to draw into one chart")->type_name("...");
-    addLookOptions(app, *this);
-    addDataOptions(app, *this);
-    addRangeOptions(app, *this);
-    addAxisOptions(app, *this);
-    surface.addTo(app);
+    parser.addArguments("INPUT", inputs, "Recordings to draw into one chart");
+    addLookOptions(parser, *this);
+    addDataOptions(parser, *this);
+    addRangeOptions(parser, *this);
+    addAxisOptions(parser, *this);
+    surface.addTo(parser);
 }
 
-void RawOptions::addPictureTo(CLI::App& app)
+void RawOptions::addPictureTo(OptionParser& parser)
 {
-    app.get_option("INPUT")->required();
-    const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
-        return app.add_option(name, value, help)->type_name(type)->group("Picture");
-    };
-    add("-o,--output", output, "FILE", "The picture: .png, .svg or .pdf")->required();
-    add("--dpi", dpi, "N", "Pixels in an inch, default 96");
-    app.footer(std::string(chartGuide) + pictureGuide);
+    const auto add = [&](const OptionParser::Option& option) { parser.add("Picture", option); };
+    add({"-o,--output", &output, "FILE", "The picture: .png, .svg or .pdf"});
+    add({"--dpi", &dpi, "N", "Pixels in an inch, default 96"});
+    parser.require("INPUT");
+    parser.require("--output");
+    parser.setGuide(std::string(chartGuide) + pictureGuide);
 }
 
 const char* RawOptions::guide()

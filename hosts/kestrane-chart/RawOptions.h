@@ -7,20 +7,18 @@
 #include <string>
 #include <vector>
 
-namespace CLI {
-class App;
-}
-
 namespace hosts::chart {
+
+class OptionParser;
 
 /// The options as they stand on the command line, before they are checked and put in order.
 struct RawOptions
 {
-    /// Tells @p app of the options of a chart, to be stored in this object.
-    void addTo(CLI::App& app);
+    /// Tells @p parser of the options of a chart, to be stored in this object.
+    void addTo(OptionParser& parser);
 
     /// Tells it of those for a picture in a file too.
-    void addPictureTo(CLI::App& app);
+    void addPictureTo(OptionParser& parser);
 
     /// What the help of a program says of charts.
     static const char* guide();

@@ -1,12 +1,11 @@
 #include "hosts/kestrane-chart/SurfaceOptions.h"
 
 #include "hosts/charting/ColorScheme.h"
+#include "hosts/kestrane-chart/OptionParser.h"
 #include "hosts/kestrane-chart/UsageError.h"
 
 #include <QRegularExpression>
 #include <QStringList>
-
-#include <CLI/CLI.hpp>
 
 #include <cmath>
 #include <vector>
@@ -69,24 +68,29 @@ double finite(const char* name, const std::optional<double>& value, double other
 
 } // namespace
 
-void RawSurfaceOptions::addTo(CLI::App& app)
+void RawSurfaceOptions::addTo(OptionParser& parser)
 {
-    const auto add = [&](const char* name, auto& value, const char* type, const char* help) {
-        return app.add_option(name, value, help)->type_name(type)->group("Cells and columns");
+    const auto add = [&](const OptionParser::Option& option) {
+        parser.add("Cells and columns", option);
     };
-    add("--colors", m_colors, "NAME", "dusk, the default; lagoon, ice, grey; poles for both signs")
-        ->check(CLI::IsMember(schemeNames()));
-    add("--color-scale", m_scale, "KIND", "log, the default for events; linear for all else")
-        ->check(CLI::IsMember({"linear", "log"}));
-    add("--thresholds", m_thresholds, "A,B,...",
-        "Where the colours begin, in place of computed ones");
-    add("--classes", m_classes, "N", "Number of colours, 2 to 256");
-    add("--color-caption", m_caption, "TEXT", "What the colours show");
-    add("--bins", m_bins, "N", "Cells to count events in, N or NxM");
-    add("--row-start", m_rowStart, "Y", "y of the first row of a table");
-    add("--row-step", m_rowStep, "Y", "Distance of the rows in y");
-    add("--window", m_window, "N", "Samples in a column of a spectrogram, by default 1024 at most");
-    add("--overlap", m_overlap, "PERCENT", "What columns have in common with the next, default 75");
+    add({"--colors", &m_colors, "NAME",
+         "dusk, the default; lagoon, ice, grey; poles for both signs", schemeNames()});
+    add({"--color-scale",
+         &m_scale,
+         "KIND",
+         "log, the default for events; linear for all else",
+         {"linear", "log"}});
+    add({"--thresholds", &m_thresholds, "A,B,...",
+         "Where the colours begin, in place of computed ones"});
+    add({"--classes", &m_classes, "N", "Number of colours, 2 to 256"});
+    add({"--color-caption", &m_caption, "TEXT", "What the colours show"});
+    add({"--bins", &m_bins, "N", "Cells to count events in, N or NxM"});
+    add({"--row-start", &m_rowStart, "Y", "y of the first row of a table"});
+    add({"--row-step", &m_rowStep, "Y", "Distance of the rows in y"});
+    add({"--window", &m_window, "N",
+         "Samples in a column of a spectrogram, by default 1024 at most"});
+    add({"--overlap", &m_overlap, "PERCENT",
+         "What columns have in common with the next, default 75"});
 }
 
 SurfaceOptions RawSurfaceOptions::checked() const

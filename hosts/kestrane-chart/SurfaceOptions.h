@@ -10,11 +10,9 @@
 #include <string>
 #include <utility>
 
-namespace CLI {
-class App;
-}
-
 namespace hosts::chart {
+
+class OptionParser;
 
 /// What the user wants of a plot of cells or columns.
 struct SurfaceOptions
@@ -37,7 +35,7 @@ class RawSurfaceOptions
 {
 public:
     /// As RawOptions::addTo().
-    void addTo(CLI::App& app);
+    void addTo(OptionParser& parser);
 
     /// Checked and in order.
     /// @throws UsageError

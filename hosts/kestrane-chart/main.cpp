@@ -1,14 +1,13 @@
 #include "hosts/charting/ChartPainter.h"
 #include "hosts/kestrane-chart/CommandLine.h"
 #include "hosts/kestrane-chart/Drawing.h"
+#include "hosts/kestrane-chart/OptionParser.h"
 #include "hosts/kestrane-chart/PictureFile.h"
 #include "hosts/kestrane-chart/Program.h"
 
 #include <kestrane/library/Kestrane.h>
 
 #include <QGuiApplication>
-
-#include <CLI/CLI.hpp>
 
 namespace {
 
@@ -26,11 +25,11 @@ void draw(const chart::Options& options)
 
 int run(int argc, char** argv)
 {
-    CLI::App app("Draws measured data.", programName);
+    chart::OptionParser parser(programName, KESTRANE_VERSION, "Draws measured data.");
     chart::RawOptions raw;
-    raw.addTo(app);
-    raw.addPictureTo(app);
-    if (!chart::readCommandLine(app, argc, argv))
+    raw.addTo(parser);
+    raw.addPictureTo(parser);
+    if (!parser.parse(argc, argv))
         return 0;
     const chart::Options options = chart::optionsOf(raw);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

@@ -23,6 +23,15 @@ constexpr double wheelZoom = 1.15; // For a notch.
 constexpr double notch = 120.0;
 constexpr int burstTime = 800; // Milliseconds between steps that are undone together.
 
+QPointF placeOf(const QMouseEvent& event)
+{
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    return event.localPos();
+#else
+    return event.position();
+#endif
+}
+
 } // namespace
 
 // What goes on between the press of a button and its release. Places count in the plot as it was at
@@ -213,47 +222,47 @@ void ChartWidget::resizeEvent(QResizeEvent*)
 
 void ChartWidget::mousePressEvent(QMouseEvent* event)
 {
-    const Part part = partAt(event->localPos());
+    const Part part = partAt(placeOf(*event));
     const bool scales = event->button() == Qt::RightButton;
     if (!m_model || m_drag || part == Nothing || (scales && part == Both) ||
         (!scales && event->button() != Qt::LeftButton)) {
         QWidget::mousePressEvent(event);
         return;
     }
-    const QPointF place = placeAt(event->localPos());
-    const int cursor = part == Both ? cursorAt(event->localPos()) : -1;
+    const QPointF place = placeAt(placeOf(*event));
+    const int cursor = part == Both ? cursorAt(placeOf(*event)) : -1;
     m_drag.reset(new Drag{m_model->view(), m_model->x().gripAt(place.x()),
-                          m_model->y().gripAt(place.y()), m_plot, event->localPos(), part, scales,
+                          m_model->y().gripAt(place.y()), m_plot, placeOf(*event), part, scales,
                           cursor, cursor < 0 ? 0.0 : m_model->cursors()[cursor]});
-    updatePointer(event->localPos());
+    updatePointer(placeOf(*event));
 }
 
 void ChartWidget::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_drag)
-        drag(event->localPos());
+        drag(placeOf(*event));
     else
-        updatePointer(event->localPos());
+        updatePointer(placeOf(*event));
 }
 
 void ChartWidget::mouseReleaseEvent(QMouseEvent* event)
 {
     if (!m_drag || event->button() != (m_drag->scales ? Qt::RightButton : Qt::LeftButton))
         return;
-    drag(event->localPos());
+    drag(placeOf(*event));
     if (m_drag && m_drag->hasMoved && m_drag->cursor < 0) {
         m_history.leave(m_drag->base);
         Q_EMIT historyChanged();
     }
     m_drag.reset();
-    updatePointer(event->localPos());
+    updatePointer(placeOf(*event));
 }
 
 void ChartWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && partAt(event->localPos()) == Both &&
-        cursorAt(event->localPos()) < 0)
-        addCursorAt(event->localPos());
+    if (event->button() == Qt::LeftButton && partAt(placeOf(*event)) == Both &&
+        cursorAt(placeOf(*event)) < 0)
+        addCursorAt(placeOf(*event));
 }
 
 void ChartWidget::wheelEvent(QWheelEvent* event)

@@ -2,9 +2,8 @@
 
 #include "hosts/kestrane-chart/AxisKind.h"
 #include "hosts/kestrane-chart/CommandLine.h"
+#include "hosts/kestrane-chart/OptionParser.h"
 #include "hosts/kestrane-chart/UsageError.h"
-
-#include <CLI/CLI.hpp>
 
 #include <cmath>
 #include <string>
@@ -51,25 +50,19 @@ void checkLive(ViewerOptions& options)
 
 std::optional<ViewerOptions> ViewerOptions::read(int argc, char** argv)
 {
-    CLI::App app("Shows measured data in a window.", "kestrane-viewer");
+    chart::OptionParser parser("kestrane-viewer", KESTRANE_VERSION,
+                               "Shows measured data in a window.");
     chart::RawOptions raw;
-    raw.addTo(app);
+    raw.addTo(parser);
     std::string live;
     double seconds = 10.0, rate = 20000.0;
-    app.add_option(
-           "--live", live,
-           "Show data while they come: 'signal', a file that grows, or '-' for the standard "
-           "input")
-        ->type_name("SOURCE")
-        ->group("Live");
-    app.add_option("--seconds", seconds, "How much of x to keep in view, default 10")
-        ->type_name("X")
-        ->group("Live");
-    app.add_option("--rate", rate, "Samples of the signal in a second, default 20000")
-        ->type_name("N")
-        ->group("Live");
-    app.footer(std::string(handling) + chart::RawOptions::guide());
-    if (!chart::readCommandLine(app, argc, argv))
+    parser.add("Live", {"--live", &live, "SOURCE",
+                        "Show data while they come: 'signal', a file that grows, or '-' for the "
+                        "standard input"});
+    parser.add("Live", {"--seconds", &seconds, "X", "How much of x to keep in view, default 10"});
+    parser.add("Live", {"--rate", &rate, "N", "Samples of the signal in a second, default 20000"});
+    parser.setGuide(std::string(handling) + chart::RawOptions::guide());
+    if (!parser.parse(argc, argv))
         return std::nullopt;
     ViewerOptions options;
     if (live == "signal" && raw.xQuantity.empty() && raw.xUnit.empty())
@@ -79,8 +72,8 @@ std::optional<ViewerOptions> ViewerOptions::read(int argc, char** argv)
     options.seconds = seconds;
     options.rate = rate;
     checkLive(options);
-    options.asksForLook = app.count("--look") > 0;
-    options.asksForSize = app.count("--size") > 0;
+    options.asksForLook = parser.has("--look");
+    options.asksForSize = parser.has("--size");
     return options;
 }
 

@@ -156,11 +156,12 @@ void ViewerWindow::dropEvent(QDropEvent* event)
 void ViewerWindow::makeMenus()
 {
     QMenu* const file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open…"), this, &ViewerWindow::askForFiles, QKeySequence::Open);
-    m_save = file->addAction(tr("&Save picture…"), this, &ViewerWindow::askForPicture,
-                             QKeySequence::Save);
+    file->addAction(tr("&Open…"), this, &ViewerWindow::askForFiles)
+        ->setShortcut(QKeySequence::Open);
+    m_save = file->addAction(tr("&Save picture…"), this, &ViewerWindow::askForPicture);
+    m_save->setShortcut(QKeySequence::Save);
     file->addSeparator();
-    file->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    file->addAction(tr("&Quit"), this, &QWidget::close)->setShortcut(QKeySequence::Quit);
     makeViewMenu();
     QMenu* const cursors = menuBar()->addMenu(tr("&Cursors"));
     m_addCursor = cursors->addAction(tr("&Add\tC"), m_chart, &ChartWidget::addCursor);
@@ -174,8 +175,10 @@ void ViewerWindow::makeMenus()
 void ViewerWindow::makeViewMenu()
 {
     QMenu* const view = menuBar()->addMenu(tr("&View"));
-    m_undo = view->addAction(tr("&Undo"), m_chart, &ChartWidget::undo, QKeySequence::Undo);
-    m_redo = view->addAction(tr("&Redo"), m_chart, &ChartWidget::redo, QKeySequence::Redo);
+    m_undo = view->addAction(tr("&Undo"), m_chart, &ChartWidget::undo);
+    m_undo->setShortcut(QKeySequence::Undo);
+    m_redo = view->addAction(tr("&Redo"), m_chart, &ChartWidget::redo);
+    m_redo->setShortcut(QKeySequence::Redo);
     view->addSeparator();
     view->addAction(tr("&All data\tHome"), m_chart, &ChartWidget::goHome);
     view->addAction(tr("&Fit y\tF"), m_chart, &ChartWidget::fitY);

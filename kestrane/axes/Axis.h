@@ -11,6 +11,7 @@
 #include <boost/shared_ptr.hpp>
 
 #include <limits>
+#include <type_traits>
 
 namespace pelorin {
 namespace ui {
@@ -204,6 +205,24 @@ protected:
     /// above every minor tick. O(n log n) for n ticks.
     void updateRanking(QVector<Tick>& ticks, bool isMajor);
 };
+
+#if __cplusplus >= 202002L
+/// The comparisons above for axes of any two classes. Since C++20 takes a comparison the other way
+/// round too, it could not choose between those of two classes.
+template<typename A, typename B>
+std::enable_if_t<std::is_base_of_v<Axis, A> && std::is_base_of_v<Axis, B>, bool>
+operator==(const A& axis, const B& other)
+{
+    return axis.operator==(static_cast<const Axis&>(other));
+}
+
+template<typename A, typename B>
+std::enable_if_t<std::is_base_of_v<Axis, A> && std::is_base_of_v<Axis, B>, bool>
+operator!=(const A& axis, const B& other)
+{
+    return axis.operator!=(static_cast<const Axis&>(other));
+}
+#endif
 
 } // namespace chart
 } // namespace ui

@@ -19,18 +19,32 @@ namespace {
 template<typename T>
 std::atomic<int> _metaTypeId{0};
 
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 template<typename T>
-void registerMetaType(const QByteArray& normalizedName, const QMetaObject* metaObject)
+int idOf(const QByteArray& normalizedName, const QMetaObject* metaObject)
 {
     using Functions = QtMetaTypePrivate::QMetaTypeFunctionHelper<T>;
 
-    if (_metaTypeId<T> != 0)
-        return;
     const auto flags = QMetaType::TypeFlags(QtPrivate::QMetaTypeTypeFlags<T>::Flags) |
                        QMetaType::WasDeclaredAsMetaType;
-    _metaTypeId<T> =
-        QMetaType::registerNormalizedType(normalizedName, Functions::Destruct, Functions::Construct,
-                                          int(sizeof(T)), flags, metaObject);
+    return QMetaType::registerNormalizedType(normalizedName, Functions::Destruct,
+                                             Functions::Construct, int(sizeof(T)), flags,
+                                             metaObject);
+}
+#else
+// A type brings its functions and its meta-object along.
+template<typename T>
+int idOf(const QByteArray& normalizedName, const QMetaObject*)
+{
+    return qRegisterNormalizedMetaType<T>(normalizedName);
+}
+#endif
+
+template<typename T>
+void registerMetaType(const QByteArray& normalizedName, const QMetaObject* metaObject)
+{
+    if (_metaTypeId<T> == 0)
+        _metaTypeId<T> = idOf<T>(normalizedName, metaObject);
 }
 
 } // namespace

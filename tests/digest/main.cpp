@@ -37,7 +37,8 @@ public:
     {
         if (std::isnan(number))
             number = NaN;
-        m_hash.addData(reinterpret_cast<const char*>(&number), sizeof number);
+        m_hash.addData(
+            QByteArray::fromRawData(reinterpret_cast<const char*>(&number), sizeof number));
     }
     void add(const QPointF& point)
     {

@@ -23,7 +23,7 @@ inline double readLabel(QString text, const QLocale& locale)
     if (parts.size() == 2) {
         QString digits;
         for (const QChar c : parts[1])
-            digits += raised.contains(c) ? QChar('0' + raised.indexOf(c)) : QChar('-');
+            digits += raised.contains(c) ? QChar('0' + int(raised.indexOf(c))) : QChar('-');
         exponent += digits.toInt();
     }
     return locale.toDouble(parts[0].trimmed() + 'e' + QString::number(exponent));

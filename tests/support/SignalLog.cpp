@@ -1,5 +1,7 @@
 #include "tests/support/SignalLog.h"
 
+#include "tests/support/QtVersions.h"
+
 #include <QMetaMethod>
 
 #include <utility>
@@ -43,7 +45,7 @@ QString SignalLog::written(const QMetaMethod& signal, void** arguments) const
         if (signal.parameterTypes().at(i).endsWith('*'))
             values << (*static_cast<QObject* const*>(value) == m_sender ? "self" : "other");
         else
-            values << QVariant(signal.parameterType(i), value).toString();
+            values << variantOf(signal.parameterType(i), value).toString();
     }
     return QString::fromLatin1(signal.name()) + '(' + values.join(",") + ')';
 }

@@ -26,10 +26,10 @@ void makeRoom(QVector<T>& list, int more, double done, double count)
     constexpr double reserve = 1.0 / 16;
     // The first few steps tell little. The last ones may bring more than all before.
     const double growth = std::clamp(count / done * (1.0 + reserve), 1.5, 64.0);
-    const int expected = static_cast<int>(std::min(list.size() * growth, most));
+    const int expected = static_cast<int>(std::min(double(list.size()) * growth, most));
 
     QVector<T> roomy;
-    roomy.reserve(std::max(list.size(), expected) + more);
+    roomy.reserve(std::max<int>(list.size(), expected) + more);
     preferLargePages(roomy.data(), static_cast<std::size_t>(roomy.capacity()) * sizeof(T));
     for (T& element : list)
         roomy.append(std::move(element));

@@ -1,0 +1,40 @@
+# Debian packages in the usual split, made by `cpack -G DEB` in the build folder.
+set(CPACK_PACKAGE_CONTACT "The Kestrane developers <kestrane@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_COMPONENTS_ALL Runtime Development Tools Documentation)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+
+set(abi "${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
+set(same_version "libkestrane${abi} (= ${PROJECT_VERSION})")
+if(KESTRANE_QT STREQUAL "Qt6")
+  set(qt_dev qt6-base-dev)
+else()
+  set(qt_dev qtbase5-dev)
+endif()
+
+# kestrane_package(COMPONENT NAME SECTION DEPENDS DESCRIPTION)
+macro(kestrane_package component name section depends description)
+  string(TOUPPER ${component} key)
+  set(CPACK_DEBIAN_${key}_PACKAGE_NAME ${name})
+  set(CPACK_DEBIAN_${key}_PACKAGE_SECTION ${section})
+  set(CPACK_DEBIAN_${key}_PACKAGE_DEPENDS "${depends}")
+  set(CPACK_COMPONENT_${key}_DESCRIPTION "${description}")
+endmacro()
+kestrane_package(Runtime libkestrane${abi} libs "" "The shared libraries.")
+kestrane_package(Development libkestrane-dev libdevel
+  "${same_version}, ${qt_dev}, libboost-dev, libtbb-dev"
+  "Headers, and what CMake and pkg-config need to build with them.")
+kestrane_package(Tools kestrane-tools science "${same_version}"
+  "kestrane-chart draws recordings into files, kestrane-viewer shows them in a window.")
+kestrane_package(Documentation kestrane-doc doc "" "Guide, recipes and examples.")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SHLIBDEPS OFF)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_SHLIBDEPS OFF)
+set(CPACK_DEBIAN_DOCUMENTATION_PACKAGE_ARCHITECTURE all)
+
+include(CPack)
