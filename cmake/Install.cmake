@@ -32,4 +32,6 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/kestrane.pc" DESTINATION "${pc_dir}"
   COMPONENT Development)
 
 install(FILES README.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/kestrane" COMPONENT Documentation)
-install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/kestrane" COMPONENT Documentation)
+install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DATADIR}/doc/kestrane"
+  COMPONENT Documentation
+  FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.cpp" PATTERN "CMakeLists.txt")

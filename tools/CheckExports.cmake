@@ -36,6 +36,9 @@ if(WRITE)
 endif()
 
 file(READ "${LIST}" listed)
+if(QT STREQUAL "Qt6") # Where this is another name for that.
+  string(REPLACE "QVector<" "QList<" listed "${listed}")
+endif()
 string(REPLACE "operator[]" "operator@" listed "${listed}")
 string(REGEX MATCHALL "[^\n]+" listed "${listed}")
 set(new ${exported})

@@ -69,9 +69,16 @@ TEST_F(ValueFormatterTest, WritesTheNumberAsTheLocaleDoes)
         const char* locale;
         const char* text;
     } cases[] = {
-        {"C", "-1234567.05"},       {"en_US", "-1,234,567.05"},
-        {"de_DE", "-1.234.567,05"}, {"sv_SE", "\u22121\u00a0234\u00a0567,05"},
-        {"en_IN", "-12,34,567.05"}, {"ne_NP", "-१,२३४,५६७.०५"},
+        {"C", "-1234567.05"},
+        {"en_US", "-1,234,567.05"},
+        {"de_DE", "-1.234.567,05"},
+        {"sv_SE", "\u22121\u00a0234\u00a0567,05"},
+        {"en_IN", "-12,34,567.05"},
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        {"ne_NP", "-१,२३४,५६७.०५"},
+#else
+        {"ne_NP", "-१२,३४,५६७.०५"}, // It knows more of the language.
+#endif
     };
     m_formatter.setSignificantDigits(9);
     for (const auto& [name, text] : cases) {
