@@ -39,6 +39,15 @@ namespace chart {
 /// carry the limits of this axis, changed or not, and parametersChanged() this axis. transform()
 /// and inverseTransform() cost O(log n) for n sub-axes and one call; ticks are merged at each call,
 /// in O(t log t) for t ticks.
+///
+/// @code
+/// LogAxis positive(0.001, 10.0);
+/// MirroredAxis negative(&positive);
+/// AggregateAxis bipolar; // Both signs over four decades, which meet in the middle.
+/// bipolar.addAxis(&negative, 0.0, 0.5).addAxis(&positive, 0.5, 1.0);
+/// bipolar.transform(Axis::Linear, 0.1);  // = 0.75
+/// bipolar.transform(Axis::Linear, -0.1); // = 0.25
+/// @endcode
 class KESTRANE_EXPORT AggregateAxis : public Axis
 {
     Q_OBJECT

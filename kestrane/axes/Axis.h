@@ -41,6 +41,16 @@ namespace chart {
 /// Threads: an axis has no lock and emits its signals from the calling thread. The const
 /// operations only read; majorTicks() and minorTicks() may rebuild a cache, so that an axis that
 /// is shared between threads has to be guarded by its user.
+///
+/// @code
+/// LinearAxis volts(0.5, -2.5); // Any kind of axis.
+/// volts.transform(Axis::Linear, 0.0);        // = 0.5
+/// volts.inverseTransform(Axis::Linear, 1.0); // = 2.5
+/// const auto base = volts.scrollScaleState(); // A drag by a tenth of the axis to the left.
+/// volts.scrollAxis(0.5, 0.1, base);
+/// volts.minValue(); // = -2
+/// volts.majorTicks().first().rank() >= volts.majorTicks().last().rank(); // = 1
+/// @endcode
 class KESTRANE_EXPORT Axis : public QObject
 {
     Q_OBJECT

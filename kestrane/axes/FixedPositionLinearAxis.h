@@ -32,6 +32,12 @@ struct AxisMap;
 ///
 /// Nothing is validated. A full range of 0 gives infinite or NaN positions, a negative scale turns
 /// the axis round, and no divisions give no ticks.
+///
+/// @code
+/// FixedPositionLinearAxis axis(0.5, 12.25); // Ten divisions of 0.5 from 12.25 on.
+/// axis.maxValue();          // = 17.25
+/// axis.majorTicks().size(); // = 10
+/// @endcode
 class KESTRANE_EXPORT FixedPositionLinearAxis : public Axis
 {
     Q_OBJECT

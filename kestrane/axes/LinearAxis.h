@@ -15,6 +15,11 @@ namespace chart {
 /// a tolerance; the values of major ones are within 4 ulp of the larger of offset and full range.
 /// While one of the two numbers of divisions is 0 the lists stay what they were.
 /// The scale is taken as it is; LinearPlotAutoScaler suggests a round one.
+///
+/// @code
+/// LinearAxis axis(0.5, 12.25); // Ten divisions of 0.5 from 12.25 on.
+/// axis.majorTicks().first().logicalPosition(); // = 17
+/// @endcode
 class KESTRANE_EXPORT LinearAxis : public FixedPositionLinearAxis
 {
 public:

@@ -12,6 +12,16 @@ namespace chart {
 /// While the data lie inside the band and are not too small, nothing changes, so that a plot keeps
 /// still. Otherwise the data are centred on the band, and a scale that has to change is rounded up
 /// to one significant digit.
+///
+/// @code
+/// LinearAxis axis(1.0, 0.0); // 0 to 10, for data from -0.7 to 2.9.
+/// const LinearPlotAutoScaler::Suggestion fit = LinearPlotAutoScaler::suggest(
+///     axis.scale(), axis.offset(), axis.transform(Axis::Linear, -0.7),
+///     axis.transform(Axis::Linear, 2.9), axis.numMajorDivisions(), 0.95, 0.05, 0.5, 1e-9,
+///     axis.offsetIsAdded(), false);
+/// axis.setOffsetAndScale(fit.offset, fit.scale);
+/// axis.maxValue(); // = 3.1
+/// @endcode
 class KESTRANE_EXPORT LinearPlotAutoScaler
 {
 public:

@@ -35,6 +35,13 @@ struct AxisMap;
 /// Nothing is validated. A limit that is negative or NaN gives NaN positions; a smallest() of 0.0
 /// keeps the decades as they were and gives infinite ones; a largest() below smallest() turns the
 /// axis round; equal limits keep the size of a decade as it was.
+///
+/// @code
+/// LogAxis hertz(10.0, 1000.0);
+/// hertz.transform(Axis::Linear, 100.0);    // = 0.5
+/// hertz.transform(Axis::Logarithmic, 2.0); // = 0.5
+/// hertz.majorTicks().size();               // = 3
+/// @endcode
 class KESTRANE_EXPORT LogAxis : public Axis
 {
     Q_OBJECT

@@ -29,6 +29,12 @@ namespace chart {
 /// fails, when somebody asks for them. The
 /// source's other signals are passed on as they come, with minimum and maximum exchanged;
 /// parametersChanged() carries the source and not this axis.
+///
+/// @code
+/// LogAxis positive(0.001, 1.0);
+/// MirroredAxis negative(&positive); // -1 to -0.001, follows its source.
+/// negative.transform(Axis::Linear, -1.0); // = 0
+/// @endcode
 class KESTRANE_EXPORT MirroredAxis : public Axis
 {
     Q_OBJECT

@@ -17,6 +17,14 @@ namespace chart {
 ///
 /// Threads: one thread at a time, since a relative label changes the options for a moment. A
 /// change of the application's language in another thread arrives in the object's own thread.
+///
+/// @code
+/// TickFormatter formatter;
+/// formatter.setLocale(QLocale::c());
+/// formatter.setQuantity("time");
+/// LinearAxis axis(0.0001);
+/// formatter.formatTick(axis.majorTicks().first(), 0.0).first().toStdString(); // = +1 ms
+/// @endcode
 class KESTRANE_EXPORT TickFormatter : public utilities::ValueFormatter
 {
     Q_OBJECT

@@ -13,6 +13,14 @@ namespace utilities {
 
 /// An error with a message for people. Thrown and copied by value, caught by reference; its type
 /// is one and the same in every library of a process.
+///
+/// @code
+/// try {
+///     throw utilities::Exception("The probe is not connected");
+/// } catch (const std::exception& error) {
+///     error.what(); // = The probe is not connected
+/// }
+/// @endcode
 class OMBREL_EXPORT Exception : public std::exception
 {
 public:

@@ -14,6 +14,17 @@ namespace backend {
 /// the grid, as long as no sample is read there. The segment has to outlive it.
 ///
 /// Threads: any; it only reads the segment.
+///
+/// @code
+/// const auto values = boost::make_shared<double[]>(6); // 3 x 2, row by row.
+/// values[4] = 7.0;
+/// const backend::MultiDimensionalPlotSegment<double, 2> grid(
+///     values, {backend::MetaInfo(), backend::MetaInfo()}, {3, 2});
+/// backend::GridPosition<double> place(grid);
+/// place.move(0, 1);
+/// place.move(1, 1);
+/// *place; // = 7
+/// @endcode
 template<typename T>
 class GridPosition
 {

@@ -47,6 +47,17 @@ namespace utilities {
 /// Threads: all operations may be called from any thread. A hold belongs to the thread that took
 /// it, which has to give it up before it ends. The lock may be destroyed when nobody uses it any
 /// more, so never from inside an action, before() or after().
+///
+/// @code
+/// using utilities::LazyRWMutex;
+/// LazyRWMutex mutex(LazyRWMutex::_noop, LazyRWMutex::_noop);
+/// int written = 0;
+/// mutex.lockForRead();
+/// mutex.pushWriterAction([&] { ++written; }); // Waits for no reader: it is carried out behind them.
+/// written; // = 0
+/// mutex.unlockForRead();
+/// written; // = 1
+/// @endcode
 class OMBREL_EXPORT LazyRWMutex
 {
 public:

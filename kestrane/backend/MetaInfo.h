@@ -9,6 +9,12 @@ namespace backend {
 
 /// One dimension of a regular grid: index k has the value k * scale + offset, worked out in this
 /// order from the index and never summed up from step to step.
+///
+/// @code
+/// const backend::MetaInfo seconds(4.0, 0.5);                     // 4, 4.5, 5 and so on
+/// const backend::MetaInfo hertz(1.0, 0.5, Axis::Logarithmic);    // 10, 31.6, 100 and so on
+/// seconds == hertz; // = 0
+/// @endcode
 struct OMBREL_EXPORT MetaInfo
 {
     /// The grid 0, 1, 2, ... of plain values.

@@ -11,6 +11,14 @@ namespace algo {
 /// Accumulates values, none of them NaN, down to their first, last, smallest, largest and mean.
 /// All operations are O(1). All but put(), reset() and count() are asked only while count() is
 /// not 0.
+///
+/// @code
+/// algo::MinMaxAverageAlgorithm column;
+/// for (const double value : {3.0, 1.0, 5.0})
+///     column.put(value);
+/// column.minVal();  // = 1
+/// column.average(); // = 3
+/// @endcode
 class OMBREL_EXPORT MinMaxAverageAlgorithm
 {
 public:

@@ -28,6 +28,13 @@ namespace backend {
 /// Threads: copies may be made, read and destroyed on different threads at the same time.
 ///
 /// Instantiated for T = double and unsigned int and two dimensions, 0 being x and 1 being y.
+///
+/// @code
+/// const auto values = boost::make_shared<double[]>(6); // 3 x 2, row by row.
+/// const backend::MetaInfo x(0.0, 1.0), y(10.0, 0.5);
+/// const backend::MultiDimensionalPlotSegment<double, 2> grid(values, {x, y}, {3, 2});
+/// grid.strides[1]; // = 3
+/// @endcode
 template<typename T, std::size_t Dimensions>
 class MultiDimensionalPlotSegment
 {

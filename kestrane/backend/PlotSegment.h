@@ -19,6 +19,13 @@ namespace backend {
 ///
 /// Threads: a segment has no lock of its own. A copy has its own place for a subsampler, so that
 /// copies can be used on different threads as long as no subsampler has been set before copying.
+///
+/// @code
+/// auto samples = boost::make_shared<backend::SampleVector>(backend::SampleVector{1.0, 2.0, 4.0});
+/// const backend::PlotSegment all(samples, backend::MetaInfo(10.0, 0.5)); // x = 10, 10.5, 11
+/// const backend::PlotSegment rest(all.begin + 1, all.end, backend::MetaInfo(10.5, 0.5));
+/// rest.count; // = 2
+/// @endcode
 class OMBREL_EXPORT PlotSegment
 {
 public:

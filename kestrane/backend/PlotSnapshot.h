@@ -10,6 +10,13 @@ namespace pelorin {
 namespace backend {
 
 /// An ordered set of segments: what a plot shows at one moment. A value; copies share samples.
+///
+/// @code
+/// auto samples = boost::make_shared<backend::SampleVector>(10, 0.5);
+/// const backend::PlotSnapshot snapshot({backend::PlotSegment(samples, backend::MetaInfo(0.0, 1.0)),
+///                                       backend::PlotSegment(samples, backend::MetaInfo(20.0, 1.0))});
+/// snapshot.segments.size(); // = 2
+/// @endcode
 class OMBREL_EXPORT PlotSnapshot
 {
 public:

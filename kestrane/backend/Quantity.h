@@ -14,6 +14,12 @@ namespace variables {
 ///
 /// The values themselves are always in the coherent SI unit (a mass in kilograms, an angle in
 /// radians, a ratio as a plain number), whatever unit is chosen to write them.
+///
+/// @code
+/// using namespace variables; // A symbol, whether it takes prefixes, a factor, an offset, a system.
+/// const Quantity length("length", {{"m", true, 1.0, 0.0, "SI"}, {"in", false, 1 / 0.0254, 0.0, "US"}});
+/// length.units()[1].symbol.toStdString(); // = in
+/// @endcode
 class OMBREL_EXPORT Quantity
 {
 public:

@@ -21,6 +21,13 @@ namespace variables {
 /// "velocity" (m/s) and "voltage" (V). Many have more units to choose from.
 ///
 /// Threads: any thread may call any operation.
+///
+/// @code
+/// using namespace variables;
+/// auto& quantities = utilities::Singleton<QuantityManager>::instance();
+/// quantities.add(Quantity("flow", {{"l/s", true, 1.0, 0.0, {}}}));
+/// quantities.quantity("flow").units().size(); // = 1
+/// @endcode
 class OMBREL_EXPORT QuantityManager
 {
 public:

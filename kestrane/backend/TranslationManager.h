@@ -15,6 +15,13 @@ namespace utilities {
 ///
 /// Threads: any thread may call any operation. localeChanged() is emitted from the thread that
 /// calls setLocale(); listeners in other threads get it queued.
+///
+/// @code
+/// auto& language = utilities::Singleton<utilities::TranslationManager>::instance();
+/// const QString before = language.locale();
+/// language.setLocale("de_DE"); // Every TickFormatter writes 0,5 from now on.
+/// language.setLocale(before);
+/// @endcode
 class OMBREL_EXPORT TranslationManager : public QObject
 {
     Q_OBJECT

@@ -32,6 +32,14 @@ class RoundedNumber;
 /// Every setting has a getter, a setter and a signal; a setter that changes nothing emits nothing.
 ///
 /// Threads: no lock; one object serves one thread at a time.
+///
+/// @code
+/// using utilities::ValueFormatter;
+/// using namespace variables;
+/// const Quantity voltage("voltage", {{"V", true, 1.0, 0.0, {}}});
+/// ValueFormatter formatter({}, QLocale::c(), voltage, 3, 3, 0, ValueFormatter::Automatic, {}, " ");
+/// formatter.format(0.01234).toStdString(); // = 12.3 mV
+/// @endcode
 class OMBREL_EXPORT ValueFormatter : public QObject
 {
     Q_OBJECT

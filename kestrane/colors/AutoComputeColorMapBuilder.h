@@ -24,6 +24,12 @@ namespace ui {
 /// always transparent.
 ///
 /// Threads: there is no state. O(n log n).
+///
+/// @code
+/// const ui::ColorMap map = ui::AutoComputeColorMapBuilder::buildAutoComputeMap(
+///     QVector<QColor>{Qt::blue, Qt::green, Qt::red}, 1000);
+/// map.thresholdAtIndex(2); // = 89
+/// @endcode
 class KESTRANE_EXPORT AutoComputeColorMapBuilder
 {
 public:

@@ -29,11 +29,19 @@ class ColorLookup;
 ///
 /// Threads: there is no lock. The const operations only read, so that any number of threads may
 /// ask one map while nobody changes it.
+///
+/// @code
+/// ui::ColorMap map(Qt::white);
+/// map.build().appendEntry(Qt::blue, 1).appendEntry(Qt::red, 100);
+/// map.mapToColor(99).name().toStdString(); // = #0000ff
+/// map.mapToColor(0).name().toStdString();  // = #ffffff
+/// @endcode
 class KESTRANE_EXPORT ColorMap
 {
 public:
     /// Appends classes to a map, which finds them once the builder has ended:
     /// @code
+    /// ui::ColorMap map;
     /// map.build().appendEntry(Qt::blue, 1).appendEntry(Qt::red, 10); // Ended at the semicolon.
     /// @endcode
     /// Until then the map lists the new classes but still looks counts up among the old ones.

@@ -13,6 +13,12 @@
 /// user registers with Qt's meta-type system: Axis::ScaleMode, the base of a gesture and ColorMap.
 /// They stay registered. Another thread that calls initialize() at the same moment doesn't wait for
 /// that.
+///
+/// @code
+/// Kestrane::initialize(); // At the start of the program, or of a plug-in.
+/// // Axes, plots, requests.
+/// Kestrane::deinitialize();
+/// @endcode
 class KESTRANE_EXPORT Kestrane
 {
 public:

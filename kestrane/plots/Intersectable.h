@@ -18,6 +18,27 @@ namespace chart {
 /// its answer may have changed. A host's plot classes derive from it.
 ///
 /// Threads: notifyees() and fireUpdates() may be used from any thread while this object lives.
+///
+/// @code
+/// struct Curve : Intersectable
+/// {
+///     QList<Intersection> doIntersect(const Axis* x, const Axis* y, double at) const override
+///     {
+///         return plot.doIntersect(x, y, at);
+///     }
+///     void setSnapshot(const backend::PlotSnapshot& snapshot)
+///     {
+///         plot.setSnapshot(snapshot);
+///         fireUpdates();
+///     }
+///     SamplePlotAlgorithm plot;
+/// };
+/// Curve curve;
+/// int updates = 0;
+/// const auto registration = curve.notifyees().add([&](const Intersectable*) { ++updates; });
+/// curve.setSnapshot(backend::PlotSnapshot());
+/// updates; // = 1
+/// @endcode
 class KESTRANE_EXPORT Intersectable
 {
 public:

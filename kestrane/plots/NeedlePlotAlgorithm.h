@@ -19,6 +19,15 @@ namespace chart {
 ///
 /// Threads: any, one at a time; a call waits for the one before it. The axes are the caller's to
 /// keep still during a request.
+///
+/// @code
+/// NeedlePlotAlgorithm plot;
+/// plot.setSnapshot(backend::PlotSnapshot({backend::PlotSegment(
+///     boost::make_shared<backend::SampleVector>(backend::SampleVector{2.0, 8.0, 4.0}))}));
+/// LinearAxis x(1.0), y(1.0);
+/// const NeedlePlotAlgorithm::NeedleResult needles = plot.createNeedles(&x, &y, 1.0 / 800);
+/// needles.values[1]; // = 0.8
+/// @endcode
 class KESTRANE_EXPORT NeedlePlotAlgorithm
 {
 public:

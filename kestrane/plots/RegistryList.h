@@ -45,6 +45,13 @@ namespace utilities {
 /// the callback and its report go only then.
 ///
 /// Instantiated for the callbacks of ui::chart::Intersectable.
+///
+/// @code
+/// utilities::RegistryList<Intersectable::Notifyee> list;
+/// {
+///     const auto registration = list.add([](const Intersectable*) {});
+/// } // Taken back here.
+/// @endcode
 template<typename T>
 class RegistryList : public Registry<T>
 {

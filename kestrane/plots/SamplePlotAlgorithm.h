@@ -35,6 +35,17 @@ namespace chart {
 ///
 /// Threads: any, one at a time; a call waits for the one before it. The axes are the caller's to
 /// keep still during a request.
+///
+/// @code
+/// SamplePlotAlgorithm plot;
+/// plot.setSnapshot(backend::PlotSnapshot({backend::PlotSegment(
+///     boost::make_shared<backend::SampleVector>(backend::SampleVector{0.0, 2.0, 4.0}))}));
+/// auto x = QSharedPointer<LinearAxis>::create(1.0), y = QSharedPointer<LinearAxis>::create(1.0);
+/// const auto [lines, symbols] = plot.createSegments(x, y, 1.0 / 800, 8.0);
+/// lines.size();       // = 1
+/// symbols[0].size();  // = 3
+/// symbols[0][2].x();  // = 0.2
+/// @endcode
 class KESTRANE_EXPORT SamplePlotAlgorithm : public PointsBasedPlotHelper
 {
 public:

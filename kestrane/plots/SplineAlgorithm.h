@@ -56,6 +56,12 @@ class SplineCurvature;
 /// Threads: a query moves a cache, so that one object serves one thread at a time.
 ///
 /// Instantiated for backend::SampleIterator.
+///
+/// @code
+/// auto samples = boost::make_shared<backend::SampleVector>(backend::SampleVector{0.0, 2.0, 4.0});
+/// algo::SplineAlgorithm<backend::SampleIterator> spline(backend::PlotSegment(samples).begin, 3);
+/// spline[0.5]; // = 1
+/// @endcode
 template<typename Iterator>
 class SplineAlgorithm : public Subsampler
 {

@@ -35,6 +35,19 @@ namespace chart {
 ///
 /// Threads: any, one at a time; a call waits for the one before it. The axes are the caller's to
 /// keep still during a request.
+///
+/// @code
+/// const auto values = [](std::initializer_list<double> list) {
+///     return backend::PlotSnapshot(
+///         {backend::PlotSegment(boost::make_shared<backend::SampleVector>(list))});
+/// };
+/// XYPlotAlgorithm plot;
+/// plot.setSnapshot(values({1.0, 5.0, 3.0}), values({2.0, 2.0, 8.0}));
+/// auto x = QSharedPointer<LinearAxis>::create(1.0), y = QSharedPointer<LinearAxis>::create(1.0);
+/// const auto lines = plot.createSegments(x, y, 1.0 / 800, 8.0).first;
+/// lines[0].size();   // = 3
+/// lines[0][2].y();   // = 0.8
+/// @endcode
 class KESTRANE_EXPORT XYPlotAlgorithm : public PointsBasedPlotHelper
 {
 public:

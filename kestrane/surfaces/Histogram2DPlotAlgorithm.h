@@ -32,6 +32,22 @@ namespace chart {
 /// Threads: any, several at a time. No lock is held while samples are read, so that setSnapshot(),
 /// setCountMode() and clearGeometryCache() don't wait for a request; they take effect on the next
 /// one. Axes and colour map are the caller's to keep still during a request.
+///
+/// @code
+/// const auto counts = boost::make_shared<unsigned int[]>(4); // 2 x 2, row by row: 0 0 0 7
+/// counts[3] = 7;
+/// const backend::MultiDimensionalPlotSegment<unsigned int, 2> grid(
+///     counts, {backend::MetaInfo(0.0, 5.0), backend::MetaInfo(0.0, 5.0)}, {2, 2});
+/// Histogram2DPlotAlgorithm plot;
+/// plot.setSnapshot(backend::MultiDimensionalPlotSnapshot<unsigned int, 2>({grid}));
+/// ui::ColorMap map(Qt::white);
+/// map.build().appendEntry(Qt::red, 5);
+/// auto x = QSharedPointer<LinearAxis>::create(1.0), y = QSharedPointer<LinearAxis>::create(1.0);
+/// const auto cells = plot.makeColorArrays(x, y, map, 0.01, 0.01).at(0);
+/// cells.colors[0].name().toStdString(); // = #ffffff
+/// cells.colors[3].name().toStdString(); // = #ff0000
+/// cells.maxCount;                       // = 7
+/// @endcode
 class KESTRANE_EXPORT Histogram2DPlotAlgorithm : public GeometryBasedPlotAlgorithm
 {
 public:

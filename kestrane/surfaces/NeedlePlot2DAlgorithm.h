@@ -22,6 +22,17 @@ namespace chart {
 ///
 /// Threads: any, one at a time; a call waits for the one before it, and so does setSnapshot(). The
 /// axes are the caller's to keep still during a request.
+///
+/// @code
+/// const auto values = boost::make_shared<double[]>(4); // 2 x 2, row by row.
+/// values[2] = 7.0;
+/// const backend::MultiDimensionalPlotSegment<double, 2> grid(
+///     values, {backend::MetaInfo(0.0, 5.0), backend::MetaInfo(0.0, 5.0)}, {2, 2});
+/// NeedlePlot2DAlgorithm plot;
+/// plot.setSnapshot(backend::MultiDimensionalPlotSnapshot<double, 2>({grid}));
+/// auto x = QSharedPointer<LinearAxis>::create(1.0), y = QSharedPointer<LinearAxis>::create(1.0);
+/// plot.makeNeedles(x, y, Qt::blue, Qt::red, 0.01, 0.01).size(); // = 2
+/// @endcode
 class KESTRANE_EXPORT NeedlePlot2DAlgorithm : public GeometryBasedPlotAlgorithm
 {
 public:
