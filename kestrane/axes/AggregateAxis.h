@@ -48,6 +48,9 @@ namespace chart {
 /// bipolar.transform(Axis::Linear, 0.1);  // = 0.75
 /// bipolar.transform(Axis::Linear, -0.1); // = 0.25
 /// @endcode
+///
+/// @image html bipolar.png
+/// @ingroup axes
 class KESTRANE_EXPORT AggregateAxis : public Axis
 {
     Q_OBJECT

@@ -51,6 +51,8 @@ namespace chart {
 /// volts.minValue(); // = -2
 /// volts.majorTicks().first().rank() >= volts.majorTicks().last().rank(); // = 1
 /// @endcode
+///
+/// @ingroup axes
 class KESTRANE_EXPORT Axis : public QObject
 {
     Q_OBJECT

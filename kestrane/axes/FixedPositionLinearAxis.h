@@ -38,6 +38,9 @@ struct AxisMap;
 /// axis.maxValue();          // = 17.25
 /// axis.majorTicks().size(); // = 10
 /// @endcode
+///
+/// @image html ticks-fixed.png
+/// @ingroup axes
 class KESTRANE_EXPORT FixedPositionLinearAxis : public Axis
 {
     Q_OBJECT

@@ -20,6 +20,9 @@ namespace chart {
 /// LinearAxis axis(0.5, 12.25); // Ten divisions of 0.5 from 12.25 on.
 /// axis.majorTicks().first().logicalPosition(); // = 17
 /// @endcode
+///
+/// @image html ticks-linear.png
+/// @ingroup axes
 class KESTRANE_EXPORT LinearAxis : public FixedPositionLinearAxis
 {
 public:

@@ -22,6 +22,8 @@ namespace chart {
 /// axis.setOffsetAndScale(fit.offset, fit.scale);
 /// axis.maxValue(); // = 3.1
 /// @endcode
+///
+/// @ingroup axes
 class KESTRANE_EXPORT LinearPlotAutoScaler
 {
 public:

@@ -42,6 +42,9 @@ struct AxisMap;
 /// hertz.transform(Axis::Logarithmic, 2.0); // = 0.5
 /// hertz.majorTicks().size();               // = 3
 /// @endcode
+///
+/// @image html spectrum-log.png
+/// @ingroup axes
 class KESTRANE_EXPORT LogAxis : public Axis
 {
     Q_OBJECT

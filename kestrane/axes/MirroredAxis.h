@@ -35,6 +35,8 @@ namespace chart {
 /// MirroredAxis negative(&positive); // -1 to -0.001, follows its source.
 /// negative.transform(Axis::Linear, -1.0); // = 0
 /// @endcode
+///
+/// @ingroup axes
 class KESTRANE_EXPORT MirroredAxis : public Axis
 {
     Q_OBJECT

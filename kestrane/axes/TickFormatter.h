@@ -25,6 +25,8 @@ namespace chart {
 /// LinearAxis axis(0.0001);
 /// formatter.formatTick(axis.majorTicks().first(), 0.0).first().toStdString(); // = +1 ms
 /// @endcode
+///
+/// @ingroup axes
 class KESTRANE_EXPORT TickFormatter : public utilities::ValueFormatter
 {
     Q_OBJECT

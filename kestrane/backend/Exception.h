@@ -21,6 +21,8 @@ namespace utilities {
 ///     error.what(); // = The probe is not connected
 /// }
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT Exception : public std::exception
 {
 public:

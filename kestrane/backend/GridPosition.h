@@ -25,6 +25,8 @@ namespace backend {
 /// place.move(1, 1);
 /// *place; // = 7
 /// @endcode
+///
+/// @ingroup backend
 template<typename T>
 class GridPosition
 {

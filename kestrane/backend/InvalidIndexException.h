@@ -7,6 +7,8 @@ namespace pelorin {
 namespace utilities {
 
 /// An index lies outside the range that a place accepts.
+///
+/// @ingroup backend
 class OMBREL_EXPORT InvalidIndexException : public Exception
 {
 public:

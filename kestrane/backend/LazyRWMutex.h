@@ -53,11 +53,13 @@ namespace utilities {
 /// LazyRWMutex mutex(LazyRWMutex::_noop, LazyRWMutex::_noop);
 /// int written = 0;
 /// mutex.lockForRead();
-/// mutex.pushWriterAction([&] { ++written; }); // Waits for no reader: it is carried out behind them.
-/// written; // = 0
-/// mutex.unlockForRead();
-/// written; // = 1
+/// mutex.pushWriterAction([&] { ++written; }); // Does not wait for the reader:
+/// written;                                    // = 0
+/// mutex.unlockForRead();                      // it is carried out behind it.
+/// written;                                    // = 1
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT LazyRWMutex
 {
 public:

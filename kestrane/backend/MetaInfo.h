@@ -15,6 +15,8 @@ namespace backend {
 /// const backend::MetaInfo hertz(1.0, 0.5, Axis::Logarithmic);    // 10, 31.6, 100 and so on
 /// seconds == hertz; // = 0
 /// @endcode
+///
+/// @ingroup backend
 struct OMBREL_EXPORT MetaInfo
 {
     /// The grid 0, 1, 2, ... of plain values.

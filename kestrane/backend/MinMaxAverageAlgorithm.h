@@ -19,6 +19,8 @@ namespace algo {
 /// column.minVal();  // = 1
 /// column.average(); // = 3
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT MinMaxAverageAlgorithm
 {
 public:

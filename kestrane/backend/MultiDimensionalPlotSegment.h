@@ -35,6 +35,8 @@ namespace backend {
 /// const backend::MultiDimensionalPlotSegment<double, 2> grid(values, {x, y}, {3, 2});
 /// grid.strides[1]; // = 3
 /// @endcode
+///
+/// @ingroup backend
 template<typename T, std::size_t Dimensions>
 class MultiDimensionalPlotSegment
 {

@@ -16,6 +16,8 @@ namespace backend {
 /// replaced as a whole. Copies share segments and samples, and are O(1).
 ///
 /// Threads: copies may be made, read and destroyed on different threads at the same time.
+///
+/// @ingroup backend
 template<typename T, std::size_t Dimensions>
 class MultiDimensionalPlotSnapshot
 {

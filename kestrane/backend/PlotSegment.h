@@ -26,6 +26,8 @@ namespace backend {
 /// const backend::PlotSegment rest(all.begin + 1, all.end, backend::MetaInfo(10.5, 0.5));
 /// rest.count; // = 2
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT PlotSegment
 {
 public:

@@ -13,10 +13,14 @@ namespace backend {
 ///
 /// @code
 /// auto samples = boost::make_shared<backend::SampleVector>(10, 0.5);
-/// const backend::PlotSnapshot snapshot({backend::PlotSegment(samples, backend::MetaInfo(0.0, 1.0)),
-///                                       backend::PlotSegment(samples, backend::MetaInfo(20.0, 1.0))});
+/// const backend::PlotSnapshot snapshot({backend::PlotSegment(samples,
+/// backend::MetaInfo(0.0, 1.0)),
+///                                       backend::PlotSegment(samples,
+///                                       backend::MetaInfo(20.0, 1.0))});
 /// snapshot.segments.size(); // = 2
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT PlotSnapshot
 {
 public:

@@ -16,10 +16,14 @@ namespace variables {
 /// radians, a ratio as a plain number), whatever unit is chosen to write them.
 ///
 /// @code
-/// using namespace variables; // A symbol, whether it takes prefixes, a factor, an offset, a system.
-/// const Quantity length("length", {{"m", true, 1.0, 0.0, "SI"}, {"in", false, 1 / 0.0254, 0.0, "US"}});
+/// using namespace variables;
+/// // A symbol, whether it takes prefixes, a factor, an offset, a system.
+/// const Quantity length("length", {{"m", true, 1.0, 0.0, "SI"},
+///                                  {"in", false, 1 / 0.0254, 0.0, "US"}});
 /// length.units()[1].symbol.toStdString(); // = in
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT Quantity
 {
 public:

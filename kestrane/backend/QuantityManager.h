@@ -28,6 +28,8 @@ namespace variables {
 /// quantities.add(Quantity("flow", {{"l/s", true, 1.0, 0.0, {}}}));
 /// quantities.quantity("flow").units().size(); // = 1
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT QuantityManager
 {
 public:

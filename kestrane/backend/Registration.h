@@ -14,6 +14,8 @@ namespace utilities {
 /// It can be moved and not copied, so that there is one end to each registration.
 ///
 /// Threads: one at a time for one object; it may die on another thread than it was made on.
+///
+/// @ingroup backend
 class OMBREL_EXPORT Registration
 {
 public:

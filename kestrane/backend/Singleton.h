@@ -12,6 +12,8 @@ namespace utilities {
 ///
 /// Threads: instance() may be called from any thread. The object is made at the first call and
 /// never destroyed, so that what dies while the process ends can still use it.
+///
+/// @ingroup backend
 template<typename T>
 class Singleton
 {

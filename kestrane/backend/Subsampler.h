@@ -11,6 +11,8 @@ namespace algo {
 /// Answers the value of a run of samples between its samples.
 ///
 /// Threads: an implementation may cache, so that one object serves one thread at a time.
+///
+/// @ingroup backend
 class OMBREL_EXPORT Subsampler
 {
 public:

@@ -22,6 +22,8 @@ namespace utilities {
 /// language.setLocale("de_DE"); // Every TickFormatter writes 0,5 from now on.
 /// language.setLocale(before);
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT TranslationManager : public QObject
 {
     Q_OBJECT

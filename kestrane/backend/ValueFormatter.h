@@ -37,9 +37,12 @@ class RoundedNumber;
 /// using utilities::ValueFormatter;
 /// using namespace variables;
 /// const Quantity voltage("voltage", {{"V", true, 1.0, 0.0, {}}});
-/// ValueFormatter formatter({}, QLocale::c(), voltage, 3, 3, 0, ValueFormatter::Automatic, {}, " ");
+/// ValueFormatter formatter({}, QLocale::c(), voltage, 3, 3, 0, ValueFormatter::Automatic, {},
+///                          " ");
 /// formatter.format(0.01234).toStdString(); // = 12.3 mV
 /// @endcode
+///
+/// @ingroup backend
 class OMBREL_EXPORT ValueFormatter : public QObject
 {
     Q_OBJECT

@@ -30,6 +30,8 @@ namespace ui {
 ///     QVector<QColor>{Qt::blue, Qt::green, Qt::red}, 1000);
 /// map.thresholdAtIndex(2); // = 89
 /// @endcode
+///
+/// @ingroup colors
 class KESTRANE_EXPORT AutoComputeColorMapBuilder
 {
 public:

@@ -36,6 +36,8 @@ class ColorLookup;
 /// map.mapToColor(99).name().toStdString(); // = #0000ff
 /// map.mapToColor(0).name().toStdString();  // = #ffffff
 /// @endcode
+///
+/// @ingroup colors
 class KESTRANE_EXPORT ColorMap
 {
 public:

@@ -19,6 +19,8 @@
 /// // Axes, plots, requests.
 /// Kestrane::deinitialize();
 /// @endcode
+///
+/// @ingroup library
 class KESTRANE_EXPORT Kestrane
 {
 public:

@@ -39,6 +39,8 @@ namespace chart {
 /// curve.setSnapshot(backend::PlotSnapshot());
 /// updates; // = 1
 /// @endcode
+///
+/// @ingroup plots
 class KESTRANE_EXPORT Intersectable
 {
 public:

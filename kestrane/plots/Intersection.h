@@ -8,6 +8,9 @@ namespace ui {
 namespace chart {
 
 /// A place where a plot crosses a vertical line. A plain value.
+///
+/// @image html cursors.png
+/// @ingroup plots
 struct KESTRANE_EXPORT Intersection
 {
     Intersection(double position, double value);

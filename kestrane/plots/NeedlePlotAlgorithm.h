@@ -28,6 +28,9 @@ namespace chart {
 /// const NeedlePlotAlgorithm::NeedleResult needles = plot.createNeedles(&x, &y, 1.0 / 800);
 /// needles.values[1]; // = 0.8
 /// @endcode
+///
+/// @image html sunspots.png
+/// @ingroup plots
 class KESTRANE_EXPORT NeedlePlotAlgorithm
 {
 public:

@@ -12,6 +12,8 @@ namespace ui {
 namespace chart {
 
 /// What the plots that produce lists of points have in common.
+///
+/// @ingroup plots
 class KESTRANE_EXPORT PointsBasedPlotHelper
 {
 public:

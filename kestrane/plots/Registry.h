@@ -23,6 +23,8 @@ class RegistryList;
 /// A place where items can be registered, and which hears of its own changes.
 ///
 /// Instantiated for the callbacks of ui::chart::Intersectable.
+///
+/// @ingroup plots
 template<typename T>
 class Registry : private boost::noncopyable
 {

@@ -52,6 +52,8 @@ namespace utilities {
 ///     const auto registration = list.add([](const Intersectable*) {});
 /// } // Taken back here.
 /// @endcode
+///
+/// @ingroup plots
 template<typename T>
 class RegistryList : public Registry<T>
 {

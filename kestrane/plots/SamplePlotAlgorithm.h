@@ -46,6 +46,9 @@ namespace chart {
 /// symbols[0].size();  // = 3
 /// symbols[0][2].x();  // = 0.2
 /// @endcode
+///
+/// @image html zoom.png
+/// @ingroup plots
 class KESTRANE_EXPORT SamplePlotAlgorithm : public PointsBasedPlotHelper
 {
 public:

@@ -62,6 +62,8 @@ class SplineCurvature;
 /// algo::SplineAlgorithm<backend::SampleIterator> spline(backend::PlotSegment(samples).begin, 3);
 /// spline[0.5]; // = 1
 /// @endcode
+///
+/// @ingroup plots
 template<typename Iterator>
 class SplineAlgorithm : public Subsampler
 {

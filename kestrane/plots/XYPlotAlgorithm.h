@@ -48,6 +48,9 @@ namespace chart {
 /// lines[0].size();   // = 3
 /// lines[0][2].y();   // = 0.8
 /// @endcode
+///
+/// @image html portrait.png
+/// @ingroup plots
 class KESTRANE_EXPORT XYPlotAlgorithm : public PointsBasedPlotHelper
 {
 public:

@@ -21,6 +21,8 @@ namespace chart {
 /// new data on the same grid.
 ///
 /// Threads: setSnapshot() may be called on any thread while another asks for something to draw.
+///
+/// @ingroup surfaces
 class KESTRANE_EXPORT GeometryBasedPlotAlgorithm
 {
 public:

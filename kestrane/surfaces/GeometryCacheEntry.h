@@ -16,6 +16,8 @@ namespace chart {
 
 /// The cells of one segment, with all that they were made from. It keeps the very axes of its last
 /// rebuild alive and doesn't copy them: one that is changed in place afterwards goes unnoticed.
+///
+/// @ingroup surfaces
 struct GeometryCacheEntry
 {
     using Geometry = GeometryBasedPlotAlgorithm::Geometry;

@@ -9,6 +9,8 @@ namespace ui {
 namespace chart {
 
 /// The cells of one segment, with their edges in the form of a result, the first one included.
+///
+/// @ingroup surfaces
 struct HistoCacheEntry : GeometryCacheEntry
 {
     backend::SampleVector xEdges; ///< In axis space.

@@ -48,6 +48,9 @@ namespace chart {
 /// cells.colors[3].name().toStdString(); // = #ff0000
 /// cells.maxCount;                       // = 7
 /// @endcode
+///
+/// @image html spectrogram.png
+/// @ingroup surfaces
 class KESTRANE_EXPORT Histogram2DPlotAlgorithm : public GeometryBasedPlotAlgorithm
 {
 public:

@@ -33,6 +33,9 @@ namespace chart {
 /// auto x = QSharedPointer<LinearAxis>::create(1.0), y = QSharedPointer<LinearAxis>::create(1.0);
 /// plot.makeNeedles(x, y, Qt::blue, Qt::red, 0.01, 0.01).size(); // = 2
 /// @endcode
+///
+/// @image html columns.png
+/// @ingroup surfaces
 class KESTRANE_EXPORT NeedlePlot2DAlgorithm : public GeometryBasedPlotAlgorithm
 {
 public:
