@@ -8,6 +8,18 @@ namespace utilities {
 
 /// An index lies outside the range that a place accepts.
 ///
+/// @code
+/// auto samples = boost::make_shared<backend::SampleVector>(3, 1.0);
+/// algo::SplineAlgorithm<backend::SampleIterator> spline(backend::PlotSegment(samples).begin, 3);
+/// bool isOutside = false;
+/// try {
+///     spline[7.0];
+/// } catch (const utilities::InvalidIndexException&) {
+///     isOutside = true;
+/// }
+/// isOutside; // = 1
+/// @endcode
+///
 /// @ingroup backend
 class OMBREL_EXPORT InvalidIndexException : public Exception
 {

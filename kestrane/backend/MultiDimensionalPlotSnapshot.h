@@ -17,6 +17,14 @@ namespace backend {
 ///
 /// Threads: copies may be made, read and destroyed on different threads at the same time.
 ///
+/// @code
+/// const auto counts = boost::make_shared<unsigned int[]>(6);
+/// const backend::MultiDimensionalPlotSegment<unsigned int, 2> grid(
+///     counts, {backend::MetaInfo(), backend::MetaInfo()}, {3, 2});
+/// const backend::MultiDimensionalPlotSnapshot<unsigned int, 2> snapshot({grid});
+/// snapshot.end() - snapshot.begin(); // = 1
+/// @endcode
+///
 /// @ingroup backend
 template<typename T, std::size_t Dimensions>
 class MultiDimensionalPlotSnapshot

@@ -13,6 +13,11 @@ namespace utilities {
 /// Threads: instance() may be called from any thread. The object is made at the first call and
 /// never destroyed, so that what dies while the process ends can still use it.
 ///
+/// @code
+/// auto& quantities = utilities::Singleton<variables::QuantityManager>::instance();
+/// quantities.names().contains("time"); // = 1
+/// @endcode
+///
 /// @ingroup backend
 template<typename T>
 class Singleton

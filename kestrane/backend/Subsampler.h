@@ -12,6 +12,23 @@ namespace algo {
 ///
 /// Threads: an implementation may cache, so that one object serves one thread at a time.
 ///
+/// @code
+/// struct Steps : algo::Subsampler // The sample before a place, in place of a spline.
+/// {
+///     Steps(backend::SampleIterator first) : begin(first) {}
+///     double operator[](const double& index) override { return begin[int(index)]; }
+///     boost::shared_ptr<Subsampler> tail(long long start) override
+///     {
+///         return boost::make_shared<Steps>(begin + start);
+///     }
+///     backend::SampleIterator begin;
+/// };
+/// const backend::PlotSegment segment(
+///     boost::make_shared<backend::SampleVector>(backend::SampleVector{1.0, 2.0, 4.0}));
+/// segment.setSubsampler(boost::make_shared<Steps>(segment.begin));
+/// (*segment.subsampler())[1.7]; // = 2
+/// @endcode
+///
 /// @ingroup backend
 class OMBREL_EXPORT Subsampler
 {

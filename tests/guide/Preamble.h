@@ -10,6 +10,7 @@
 #include <kestrane/axes/TickFormatter.h>
 #include <kestrane/backend/Exception.h>
 #include <kestrane/backend/GridPosition.h>
+#include <kestrane/backend/InvalidIndexException.h>
 #include <kestrane/backend/LazyRWMutex.h>
 #include <kestrane/backend/MinMaxAverageAlgorithm.h>
 #include <kestrane/backend/MultiDimensionalPlotSnapshot.h>
