@@ -15,6 +15,21 @@ namespace utilities {
 ///
 /// Threads: one at a time for one object; it may die on another thread than it was made on.
 ///
+/// @code
+/// int users = 1;
+/// struct User : utilities::Registration::Impl
+/// {
+///     explicit User(int& count) : users(count) {}
+///     ~User() override { --users; }
+///     int& users;
+/// };
+/// {
+///     const utilities::Registration registration(std::make_unique<User>(users));
+///     users; // = 1
+/// }
+/// users; // = 0
+/// @endcode
+///
 /// @ingroup backend
 class OMBREL_EXPORT Registration
 {

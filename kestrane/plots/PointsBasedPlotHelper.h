@@ -13,6 +13,17 @@ namespace chart {
 
 /// What the plots that produce lists of points have in common.
 ///
+/// @code
+/// algo::MinMaxAverageAlgorithm column;
+/// for (const double y : {0.5, 0.9, 0.7, 0.2, 0.4})
+///     column.put(y);
+/// QVector<QPointF> points;
+/// PointsBasedPlotHelper().flushMinMax(0.25, column, points);
+/// points.size();  // = 4
+/// points[1].y();  // = 0.2
+/// column.count(); // = 0
+/// @endcode
+///
 /// @ingroup plots
 class KESTRANE_EXPORT PointsBasedPlotHelper
 {

@@ -24,6 +24,21 @@ class RegistryList;
 ///
 /// Instantiated for the callbacks of ui::chart::Intersectable.
 ///
+/// @code
+/// struct Counted : utilities::RegistryList<Intersectable::Notifyee>
+/// {
+///     ~Counted() override { detach(); }
+///     void itemAdded(const Intersectable::Notifyee&) override { ++count; }
+///     void itemRemoved(const Intersectable::Notifyee&) override { --count; }
+///     int count = 0;
+/// } listeners;
+/// utilities::Registry<Intersectable::Notifyee>& registry = listeners;
+/// auto registration = registry.add([](const Intersectable*) {});
+/// listeners.count; // = 1
+/// registration = utilities::Registration();
+/// listeners.count; // = 0
+/// @endcode
+///
 /// @ingroup plots
 template<typename T>
 class Registry : private boost::noncopyable

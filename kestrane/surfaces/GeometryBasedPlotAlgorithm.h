@@ -22,6 +22,26 @@ namespace chart {
 ///
 /// Threads: setSnapshot() may be called on any thread while another asks for something to draw.
 ///
+/// A plot of its own that wants only the cells:
+///
+/// @code
+/// struct Columns : GeometryBasedPlotAlgorithm
+/// {
+///     int count(const Axis& x, double pixelSize)
+///     {
+///         QList<Geometry> edges;
+///         Geometry first{0.0, 0};
+///         buildGeometryList(*snapshot().begin(), edges, first, &x, pixelSize, 0);
+///         return edges.size(); // One behind each cell.
+///     }
+/// } plot;
+/// const backend::MetaInfo x(0.0, 0.01), y(0.0, 1.0);
+/// const backend::MultiDimensionalPlotSegment<double, 2> grid(boost::make_shared<double[]>(1000),
+///                                                            {x, y}, {1000, 1});
+/// plot.setSnapshot(backend::MultiDimensionalPlotSnapshot<double, 2>({grid}));
+/// plot.count(LinearAxis(1.0), 0.01); // = 100
+/// @endcode
+///
 /// @ingroup surfaces
 class KESTRANE_EXPORT GeometryBasedPlotAlgorithm
 {

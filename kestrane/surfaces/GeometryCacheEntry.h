@@ -17,6 +17,14 @@ namespace chart {
 /// The cells of one segment, with all that they were made from. It keeps the very axes of its last
 /// rebuild alive and doesn't copy them: one that is changed in place afterwards goes unnoticed.
 ///
+/// @code
+/// GeometryCacheEntry entry;
+/// entry.firstX = {0.0, 0};
+/// entry.xGeometries << GeometryCacheEntry::Geometry{0.25, 3}; // Samples 0, 1 and 2.
+/// entry.xGeometries << GeometryCacheEntry::Geometry{0.5, 5};
+/// entry.xGeometries[1].index - entry.xGeometries[0].index; // = 2
+/// @endcode
+///
 /// @ingroup surfaces
 struct GeometryCacheEntry
 {

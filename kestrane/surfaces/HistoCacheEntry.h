@@ -10,6 +10,13 @@ namespace chart {
 
 /// The cells of one segment, with their edges in the form of a result, the first one included.
 ///
+/// @code
+/// HistoCacheEntry entry;
+/// entry.xGeometries << GeometryCacheEntry::Geometry{0.25, 3};
+/// entry.xEdges = {entry.firstX.position, entry.xGeometries[0].position};
+/// entry.xEdges.back(); // = 0.25
+/// @endcode
+///
 /// @ingroup surfaces
 struct HistoCacheEntry : GeometryCacheEntry
 {
