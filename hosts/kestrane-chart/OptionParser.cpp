@@ -23,6 +23,19 @@ public:
     }
 };
 
+bool takesText(const OptionParser::Target& target)
+{
+    return std::holds_alternative<std::string*>(target) ||
+           std::holds_alternative<std::optional<std::string>*>(target) ||
+           std::holds_alternative<std::vector<std::string>*>(target);
+}
+
+// An empty text would be read as 0.
+std::string complaintAboutNumber(const std::string& text)
+{
+    return text.empty() ? "the number is missing" : std::string();
+}
+
 } // namespace
 
 struct OptionParser::Library
@@ -53,6 +66,8 @@ void OptionParser::add(const char* group, const Option& option)
         [&](auto* target) { return m_library->app.add_option(option.names, *target, option.help); },
         option.target);
     added->type_name(option.type)->allow_extra_args(false)->group(group);
+    if (!takesText(option.target))
+        added->check(complaintAboutNumber);
     if (!option.choices.empty())
         added->check(CLI::IsMember(option.choices));
     if (option.excludes)

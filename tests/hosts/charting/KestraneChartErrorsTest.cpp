@@ -68,6 +68,7 @@ TEST_F(KestraneChartErrorsTest, AreSaidInOneLineAndLeaveAllFilesAsTheyWere)
         {"in.csv -o out.png --dpi 0", 2, "--dpi 0"},
         {"in.csv -o out.png --dpi nan", 2, "--dpi: not a finite number"},
         {"in.csv -o out.png --from 3 --to 1", 2, "--from 3 --to 1: the range is empty"},
+        {"in.csv -o out.png --to  ", 2, "--to: the number is missing"},
         {"in.csv -o out.png --to 1e999", 2, "--to: not a finite number"},
         {"in.csv -o out.png --bottom 1 --top 1", 2, "--bottom 1 --top 1: the range is empty"},
         {"in.csv -o out.png --from 1 --to 1.0000000000001", 2, "too narrow"},
