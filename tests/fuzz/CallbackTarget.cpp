@@ -64,7 +64,7 @@ private:
             m_called.push_back(id);
             act();
         });
-        change([=] { m_members.push_back(id); });
+        change([this, id] { m_members.push_back(id); });
     }
 
     void drop()
@@ -74,7 +74,7 @@ private:
             return;
         const int id = any->first;
         m_registrations.erase(any);
-        change([=] { m_members.erase(std::find(m_members.begin(), m_members.end(), id)); });
+        change([this, id] { m_members.erase(std::find(m_members.begin(), m_members.end(), id)); });
     }
 
     void fire()

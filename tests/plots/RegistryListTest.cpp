@@ -31,8 +31,9 @@ protected:
 
     Callback callback(const std::string& name)
     {
-        const boost::shared_ptr<void> life(nullptr, [=](void*) { write("~" + name); });
-        return [=, life = life](const Intersectable*) { write(std::exchange(m_hook, {}) + name); };
+        const boost::shared_ptr<void> life(nullptr, [this, name](void*) { write("~" + name); });
+        return
+            [this, name, life](const Intersectable*) { write(std::exchange(m_hook, {}) + name); };
     }
 
     void add(const std::string& name) { m_registrations[name] = m_list->add(callback(name)); }
