@@ -1,4 +1,4 @@
-// A curve in a window, with labelled ticks. Turn the wheel to scroll.
+// A curve in a window, with a labelled grid. Turn the wheel to scroll.
 #include <kestrane/axes/LinearAxis.h>
 #include <kestrane/axes/TickFormatter.h>
 #include <kestrane/plots/SamplePlotAlgorithm.h>
@@ -21,31 +21,32 @@ struct Chart : QWidget
         for (int i = 0; i < 100000; ++i) // 100 s, a sample each millisecond
             samples->push_back(std::sin(0.005 * i) * std::exp(-0.00004 * i));
         plot.setSnapshot(backend::PlotSnapshot({backend::PlotSegment(samples, {0.0, 0.001})}));
-        labels.setQuantity("time");
         connect(x.data(), &Axis::parametersChanged, this, [this] { update(); });
     }
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(40, 10);
-        const double w = width() - 80, h = height() - 40; // The labels stand below.
+        painter.fillRect(rect(), Qt::white);
+        const QTransform toPixels(width() - 100, 0, 0, 60 - height(), 60, height() - 40);
+        const auto paint = [&](const Axis::Tick& tick, const QLineF& line, const QPointF& label) {
+            painter.drawLine(toPixels.map(line));
+            painter.drawText(QRectF(toPixels.map(line.p1()) + label, QSizeF(60, 20)),
+                             Qt::AlignCenter, labels.formatTick(tick, qQNaN()).first());
+        };
+        painter.setPen(QPen(Qt::black, 0.2));
         for (const Axis::Tick& tick : x->majorTicks())
-            painter.drawText(QRectF(tick.axisPosition() * w - 40, h, 80, 30), Qt::AlignCenter,
-                             labels.formatTick(tick, 0.0).first());
-        for (QVector<QPointF>& line : plot.createSegments(x, y, 1.0 / w, 8.0).first) {
-            for (QPointF& point : line)
-                point = {point.x() * w, (1.0 - point.y()) * h};
-            painter.drawPolyline(line.data(), int(line.size()));
-        }
+            paint(tick, {tick.axisPosition(), 0, tick.axisPosition(), 1}, {-30, 5});
+        for (const Axis::Tick& tick : y->majorTicks())
+            paint(tick, {0, tick.axisPosition(), 1, tick.axisPosition()}, {-60, -10});
+        painter.setPen(QPen(QColor(0, 114, 178), 1.5));
+        for (const auto& line : plot.createSegments(x, y, 1.0 / toPixels.m11(), 8.0).first)
+            painter.drawPolyline(toPixels.map(QPolygonF(line)));
     }
-    void wheelEvent(QWheelEvent* event) override
-    {
-        x->scrollAxis(0.0, -event->angleDelta().y() / 2000.0);
-    }
+    void wheelEvent(QWheelEvent* turn) override { x->scrollAxis(0, -turn->angleDelta().y() / 2e3); }
     SamplePlotAlgorithm plot;
-    QSharedPointer<LinearAxis> x = QSharedPointer<LinearAxis>::create(1.0);         // 0 to 10 s
-    QSharedPointer<LinearAxis> y = QSharedPointer<LinearAxis>::create(0.25, -1.25); // -1.25 to 1.25
+    QSharedPointer<LinearAxis> x{new LinearAxis(1.0)};       // 0 to 10 s
+    QSharedPointer<LinearAxis> y{new LinearAxis(0.2, -1.0)}; // -1 to 1
     TickFormatter labels;
 };
 
@@ -53,7 +54,6 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     Chart chart;
-    chart.resize(800, 400);
     chart.show();
     return application.exec();
 }

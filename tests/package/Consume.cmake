@@ -1,4 +1,4 @@
-# What the tests of the package share. Included by scripts that know EXAMPLES, README, WORK_DIR,
+# What the tests of the package share. Included by scripts that know EXAMPLES, README, GUIDE, WORK_DIR,
 # GENERATOR, CXX_COMPILER, CONFIG and SANITIZE.
 function(run)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE output ERROR_VARIABLE output RESULT_VARIABLE result)
@@ -17,21 +17,22 @@ function(expect_output expected)
   endif()
 endfunction()
 
-# The first block of a language in the README.
-function(read_block language variable)
-  file(READ "${README}" readme)
-  if(NOT readme MATCHES "\n```${language}\n([^`]*)```")
-    message(FATAL_ERROR "${README} has no block of ${language}")
+# The first block in a document behind this fence.
+function(read_block document fence variable)
+  file(READ "${document}" text)
+  string(SUBSTRING "${fence}" 0 1 mark)
+  if(NOT text MATCHES "\n${fence}\n([^${mark}]*)${mark}")
+    message(FATAL_ERROR "${document} has no block of ${fence}")
   endif()
   set(${variable} "${CMAKE_MATCH_1}" PARENT_SCOPE)
 endfunction()
 
-# The README shows the example, word by word, and what it prints.
-function(expect_as_in_readme file language)
-  read_block(${language} shown)
-  file(READ "${EXAMPLES}/minimal/${file}" text)
+# A document shows a file of an example, word by word.
+function(expect_shown document fence example)
+  read_block("${document}" "${fence}" shown)
+  file(READ "${EXAMPLES}/${example}" text)
   if(NOT text STREQUAL shown)
-    message(FATAL_ERROR "README.md shows another ${file} than that of examples/minimal")
+    message(FATAL_ERROR "${document} shows another ${example}")
   endif()
 endfunction()
 
@@ -48,4 +49,4 @@ function(build source)
   run(${CMAKE_COMMAND} --build "${build}" --config "${CONFIG}")
 endfunction()
 
-read_block(text first_output)
+read_block("${README}" "```text" first_output)

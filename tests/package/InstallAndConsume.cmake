@@ -12,8 +12,9 @@ if(private_headers)
   message(FATAL_ERROR "Private headers are installed: ${private_headers}")
 endif()
 
-expect_as_in_readme(main.cpp cpp)
-expect_as_in_readme(CMakeLists.txt cmake)
+expect_shown("${README}" "```cpp" minimal/main.cpp)
+expect_shown("${README}" "```cmake" minimal/CMakeLists.txt)
+expect_shown("${GUIDE}" "~~~cpp" window/main.cpp)
 build("${EXAMPLES}/minimal" "-DCMAKE_PREFIX_PATH=${prefix}")
 expect_output("${first_output}" "${WORK_DIR}/build-minimal/first-chart")
 
