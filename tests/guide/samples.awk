@@ -1,7 +1,7 @@
-# Makes one program of the samples of a guide and of the examples in headers: a function for each
-# section of the guide, of its blocks of cpp in their order, and for each example. A statement with
+# Makes one program of the samples on pages and of the examples in headers: a function for each
+# section of a page, of its blocks of cpp in their order, and for each example. A statement with
 # "// = TEXT" behind it has to be printed as that text. With -v expected=1 it prints instead what the
-# blocks of text in the guide say that all blocks print.
+# blocks of text on the pages say that all blocks print.
 BEGIN {
     if (!expected) print "#include \"tests/guide/Preamble.h\"\n"
 }
