@@ -2,6 +2,7 @@
 
 #include "kestrane/axes/detail/InTurn.h"
 #include "kestrane/axes/detail/RankOrder.h"
+#include "kestrane/library/detail/OwnCopy.h"
 
 #include <QPointer>
 
@@ -71,6 +72,8 @@ void Axis::emitMaxValChanged(bool withParamChange)
 
 void Axis::updateRanking(QVector<Tick>& ticks, bool isMajor)
 {
+    if (!ticks.isDetached())
+        ticks = detail::ownCopy(ticks);
     detail::visitByRank(ticks.size(), [&](int index, double rank) {
         Tick& tick = ticks[index];
         if (tick.rank() == 0.0)

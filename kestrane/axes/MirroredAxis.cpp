@@ -129,11 +129,11 @@ void MirroredAxis::updateTicks()
 {
     if (!m_ticksStale || !m_source)
         return;
-    const QVector<Tick> candidates =
-        QVector<Tick>{jointTick()} + tickHelper(m_source->majorTicks());
     QVector<Tick> major;
-    for (const Tick& tick : candidates) {
-        if (major.isEmpty() || !(tick == major.last()))
+    major.append(jointTick());
+    const QVector<Tick> mirrored = tickHelper(m_source->majorTicks());
+    for (const Tick& tick : mirrored) {
+        if (!(tick == major.constLast()))
             major.append(tick);
     }
     m_minorTicks = tickHelper(m_source->minorTicks());

@@ -112,7 +112,8 @@ QList<QString> TickFormatter::formatTick(const Axis::Tick& tick, double referenc
         return format(QVariant(value - referenceValue));
     };
 
-    QList<QString> lines{line(tick.logicalPosition())};
+    QList<QString> lines;
+    lines.append(line(tick.logicalPosition()));
     for (const double value : tick.secondaryLogicalPositions())
         lines.append(line(value));
     return lines;

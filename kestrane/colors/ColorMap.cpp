@@ -1,6 +1,7 @@
 #include "kestrane/colors/ColorMap.h"
 
 #include "kestrane/colors/detail/TruncatedToCount.h"
+#include "kestrane/library/detail/OwnCopy.h"
 
 #include <QMap>
 
@@ -63,7 +64,7 @@ ColorMap::ColorMap(const QColor& unmatchedColor)
 ColorMap::ColorMap(const ColorMap& other, double factor)
     : m_unmatchedColor(other.m_unmatchedColor)
     , m_colors(other.m_colors)
-    , m_thresholds(other.m_thresholds)
+    , m_thresholds(chart::detail::ownCopy(other.m_thresholds))
 {
     for (int i = 1; i < m_thresholds.size(); ++i)
         m_thresholds[i] =

@@ -130,11 +130,9 @@ struct Labels
                         language().locale(), quantities().names());
     }
 
-    QList<QString> label(double reference)
-    {
-        return formatter->formatTick(Axis::Tick(1.0e7 / 3, 0.5, 1.0, {12.5e-9}, false), reference);
-    }
+    QList<QString> label(double reference) { return formatter->formatTick(tick, reference); }
 
+    const Axis::Tick tick{1.0e7 / 3, 0.5, 1.0, {12.5e-9}, false};
     std::unique_ptr<TickFormatter> formatter;
 };
 

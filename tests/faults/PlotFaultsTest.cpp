@@ -113,6 +113,11 @@ struct Parts
     QVector<QPointF> line;
 };
 
+struct FullLine : Parts
+{
+    FullLine() { line.squeeze(); }
+};
+
 /// A plot with callbacks, and the list that it has them in, with hooks.
 struct Callbacks : Intersectable
 {
@@ -141,7 +146,7 @@ struct Callbacks : Intersectable
 
     void add(const char* name)
     {
-        const Notifyee notifyee = [=](const Intersectable*) {
+        const Notifyee notifyee = [this, name](const Intersectable*) {
             hostCode();
             heard += name;
         };
@@ -213,11 +218,7 @@ TEST(PlotFaults, AreSurvivedByPartsOfPlots)
         row<Parts>("PlotSnapshot",
                    [](Parts& p) { return double(PlotSnapshot({p.data}).segments.size()); }),
         row<Parts>("flushMinMax", [](Parts& p) { p.flush(); }),
-        row<Parts>("flushMinMax to a full line",
-                   [](Parts& p) {
-                       p.line.squeeze();
-                       p.flush();
-                   }),
+        row<FullLine>("flushMinMax to a full line", [](FullLine& p) { p.flush(); }),
     });
 }
 

@@ -103,12 +103,9 @@ TEST(SurfaceFaults, AreSurvivedBySurfaces)
 
 TEST(SurfaceFaults, AreSurvivedByColors)
 {
-    const auto twoMore = [](Colors& c) {
-        c.map.build().appendEntry(Qt::green, 3).appendEntry(Qt::yellow, 20);
-    };
     walk({
         row<Colors>("appendEntry", [](Colors& c) { c.map.appendEntry(Qt::green, 3); }),
-        row<Colors>("build", twoMore),
+        row<Colors>("build", [](Colors& c) { c.map.build().appendEntry(Qt::green, 3); }),
         row<Colors>("ColorMap", [](Colors& c) { return ColorMap(c.map, 1.5); }),
         row<Colors>("operator=", [](Colors& c) { c.map = ColorMap(c.map, 1.5); }),
         row<Colors>(

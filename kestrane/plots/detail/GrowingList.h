@@ -2,6 +2,7 @@
 #define KESTRANE_PLOTS_DETAIL_GROWINGLIST_H
 
 #include "kestrane/library/detail/FreshMemory.h"
+#include "kestrane/library/detail/OwnCopy.h"
 
 #include <QVector>
 
@@ -43,7 +44,7 @@ QVector<T> takeAll(QVector<T>& list)
 {
     if (list.size() > list.capacity() / 2)
         return std::exchange(list, {});
-    const QVector<T> result(list.cbegin(), list.cend());
+    const QVector<T> result = ownCopy(list);
     list.clear();
     return result;
 }
