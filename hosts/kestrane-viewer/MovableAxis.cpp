@@ -1,5 +1,7 @@
 #include "hosts/kestrane-viewer/MovableAxis.h"
 
+#include <kestrane/axes/LogAxis.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,14 +10,21 @@ namespace hosts::viewer {
 using chart::Extent;
 using charting::ShownAxis;
 using pelorin::ui::chart::Axis;
+using pelorin::ui::chart::LogAxis;
 
 namespace {
 
 // An aggregate of axes has no axis at its very end.
 constexpr double lastPlace = 1.0 - 1e-9;
 
-// Nearer to the anchor a grip would scale the axis by leaps.
+// Nearer to the place that stays a grip would scale the axis by leaps.
 constexpr double leastLever = 0.05;
+
+// Scaling leaves the smallest value of a logarithmic axis in place, wherever its anchor is.
+double placeThatStays(const Axis& axis)
+{
+    return dynamic_cast<const LogAxis*>(&axis) ? 0.0 : axis.anchor();
+}
 
 } // namespace
 
@@ -33,7 +42,7 @@ ShownAxis MovableAxis::divided(int wantedDivisions) const
 
 MovableAxis::Grip MovableAxis::gripAt(double place) const
 {
-    const double anchor = m_shown.axis->anchor();
+    const double anchor = placeThatStays(*m_shown.axis);
     const double farthest = m_shown.axis->transform(Axis::Linear, m_reach.high);
     return {state(), place, m_kind.room(m_shown, m_reach),
             std::min(1.0, (m_shown.visible - anchor) / (farthest - anchor))};
@@ -46,18 +55,18 @@ void MovableAxis::scroll(const Grip& grip, double place)
 
 void MovableAxis::scale(const Grip& grip, double place)
 {
-    const double distance = positionOf(grip.place) - m_shown.axis->anchor();
+    const double distance = positionOf(grip.place) - placeThatStays(*m_shown.axis);
     const double lever = std::copysign(std::max(std::abs(distance), leastLever), distance);
     const double moved = lever + (place - grip.place) * m_shown.visible;
-    zoomFromAnchor(lever, std::max(moved / lever, leastLever), grip);
+    zoomFromPlaceThatStays(lever, std::max(moved / lever, leastLever), grip);
 }
 
-// The value comes back to its place by a scroll, since zooming leaves the anchor in place.
+// The value comes back to its place by a scroll, since scaling leaves another one in place.
 void MovableAxis::zoom(double place, double factor)
 {
     const double at = positionOf(place);
     const double value = m_shown.axis->inverseTransform(Axis::Linear, at);
-    zoomFromAnchor(0.5 * (1.0 - m_shown.axis->anchor()), factor, gripAt(place));
+    zoomFromPlaceThatStays(0.5 * (1.0 - placeThatStays(*m_shown.axis)), factor, gripAt(place));
     scrollBy(at, m_shown.axis->transform(Axis::Linear, value) - at, gripAt(place));
 }
 
@@ -67,14 +76,15 @@ MovableAxis::State MovableAxis::state() const
 }
 
 // A gesture that goes nowhere from a base leads back to it. A logarithmic axis does not scroll
-// while one of its limits would stay, so that the way goes by somewhere else.
+// while one of its limits would stay, so that the way goes by two other places: at one of them at
+// least both limits differ from what they are.
 void MovableAxis::restore(const State& state)
 {
     Axis& axis = *m_shown.axis;
-    const double at = 0.5 * (1.0 + axis.anchor());
+    const double at = 0.5 * (1.0 + placeThatStays(axis));
     m_shown.visible = state.visible;
-    axis.scrollAxis(at, 0.5, state.axis);
-    axis.scrollAxis(at, 0.0, state.axis);
+    for (const double by : {0.5, 0.3, 0.0})
+        axis.scrollAxis(at, by, state.axis);
     axis.scaleAxis(at, 0.0, state.axis);
 }
 
@@ -110,18 +120,18 @@ double MovableAxis::positionOf(double place) const
 // start, an axis runs the other way.
 void MovableAxis::scrollBy(double at, double by, const Grip& grip)
 {
-    const bool runsDown = at < m_shown.axis->anchor();
+    const bool runsDown = at < placeThatStays(*m_shown.axis);
     const double within = runsDown ? std::clamp(by, -grip.room.high, -grip.room.low)
                                    : std::clamp(by, grip.room.low, grip.room.high);
     m_shown.axis->scrollAxis(at, within, grip.base.axis);
 }
 
 // Where the lever ends afterwards: at the factor times its length.
-void MovableAxis::zoomFromAnchor(double lever, double factor, const Grip& grip)
+void MovableAxis::zoomFromPlaceThatStays(double lever, double factor, const Grip& grip)
 {
     const State before = state();
     const double allowed = std::max(factor, grip.leastZoom);
-    m_shown.axis->scaleAxis(m_shown.axis->anchor() + lever, lever * (1.0 - allowed),
+    m_shown.axis->scaleAxis(placeThatStays(*m_shown.axis) + lever, lever * (1.0 - allowed),
                             grip.base.axis);
     if (!m_kind.isUsable(m_shown))
         restore(before);

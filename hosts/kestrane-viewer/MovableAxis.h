@@ -50,7 +50,8 @@ public:
     /// Moves what was at the place of the grip to @p place.
     void scroll(const Grip& grip, double place);
 
-    /// The same by making the range larger or smaller. The anchor stays where it is.
+    /// The same by making the range larger or smaller. The start of an axis stays where it is, or
+    /// the joint of one that has two halves.
     void scale(const Grip& grip, double place);
 
     /// Shows a range that is smaller by a factor, or larger by one below 1.0, with the same value
@@ -74,7 +75,7 @@ public:
 private:
     double positionOf(double place) const;
     void scrollBy(double at, double by, const Grip& grip);
-    void zoomFromAnchor(double lever, double factor, const Grip& grip);
+    void zoomFromPlaceThatStays(double lever, double factor, const Grip& grip);
 
     charting::ShownAxis m_shown;
     const chart::AxisKind& m_kind;

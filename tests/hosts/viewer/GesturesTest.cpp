@@ -1,5 +1,7 @@
 #include "tests/hosts/viewer/WindowRig.h"
 
+#include <kestrane/axes/LogAxis.h>
+
 #include <QGestureEvent>
 #include <QPinchGesture>
 #include <QSharedPointer>
@@ -8,7 +10,9 @@ namespace hosts::viewer {
 
 namespace {
 
+using chart::AxisKind;
 using pelorin::ui::chart::Axis;
+using pelorin::ui::chart::LogAxis;
 
 constexpr auto anyKind = {"linear", "fixed", "log", "bipolar"};
 
@@ -198,6 +202,28 @@ TEST(ChartWidgetTest, KeysScrollZoomAndFit)
     EXPECT_GT(rig.view()[3], 18.0);
     EXPECT_LT(rig.view()[2], 1.0);
     EXPECT_GT(rig.view()[2], -1.0);
+}
+
+TEST(MovableAxisTest, ALogarithmicAxisZoomsByAFactorWhereverItsDecadesLie)
+{
+    for (const auto& [from, to] : {std::pair(1.0, 1000.0), {20.0, 90.0}, {2.0, 9.0}, {3.0, 1e4}}) {
+        MovableAxis axis({QSharedPointer<LogAxis>::create(from, to)}, AxisKind::named("log"));
+        axis.zoom(0.25, 1.25);
+        const double start = std::log10(axis.shown().from()), end = std::log10(axis.shown().to());
+        EXPECT_NEAR(end - start, std::log10(to / from) / 1.25, 1e-12) << from;
+        EXPECT_NEAR(0.75 * start + 0.25 * end, 0.75 * std::log10(from) + 0.25 * std::log10(to),
+                    1e-12);
+    }
+}
+
+TEST(MovableAxisTest, AViewComesBackThoughALimitIsThatOfTheWayThere)
+{
+    const charting::ShownAxis wide{QSharedPointer<LogAxis>::create(1.0, 100.0)};
+    MovableAxis axis(wide, AxisKind::named("log"));
+    axis.show({QSharedPointer<LogAxis>::create(10.0, 100.0)});
+    axis.show(wide);
+    EXPECT_DOUBLE_EQ(axis.shown().from(), 1.0);
+    EXPECT_DOUBLE_EQ(axis.shown().to(), 100.0);
 }
 
 // Where there is nothing to fit, the view stays, and the window says why.
