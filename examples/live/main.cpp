@@ -18,16 +18,17 @@ int main()
     ui::chart::SamplePlotAlgorithm plot; // setSnapshot() and createSegments() may meet.
     std::atomic<bool> isDone{false};
 
-    // Measures blocks of 1000 samples. A block that is part of a snapshot never changes again, so
-    // that each snapshot is a list of those before and a new one.
+    // Samples go into memory that is there from the start. A snapshot is what is full of it: that
+    // never changes again, and copying a snapshot copies no sample.
+    const int count = 100000;
     std::thread source([&] {
-        std::vector<backend::PlotSegment> segments;
-        for (int block = 0; block < 100; ++block) {
-            auto samples = boost::make_shared<backend::SampleVector>();
-            for (int i = 0; i < 1000; ++i)
-                samples->push_back(std::sin(0.0001 * (1000 * block + i)));
-            segments.emplace_back(samples, backend::MetaInfo(block, 0.001));
-            plot.setSnapshot(backend::PlotSnapshot(segments));
+        const auto samples = boost::make_shared<backend::SampleVector>(count);
+        const backend::SampleIterator begin(samples->begin(), samples);
+        for (int full = 0; full < count;) {
+            for (int i = 0; i < 1000; ++i, ++full) // A second of them.
+                (*samples)[std::size_t(full)] = std::sin(0.0001 * full);
+            const backend::PlotSegment segment(begin, begin + full, backend::MetaInfo(0.0, 0.001));
+            plot.setSnapshot(backend::PlotSnapshot({segment}));
         }
         isDone = true;
     });
@@ -43,6 +44,6 @@ int main()
             points += line.size();
     }
     source.join();
-    std::cout << points << " points for 100000 samples\n";
+    std::cout << points << " points for " << count << " samples\n";
     Kestrane::deinitialize();
 }

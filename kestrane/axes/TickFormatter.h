@@ -18,6 +18,9 @@ namespace chart {
 /// Threads: one thread at a time, since a relative label changes the options for a moment. A
 /// change of the application's language in another thread arrives in the object's own thread.
 ///
+/// As a ValueFormatter it starts with 4 significant digits: where ticks are near to each other far
+/// from zero, setSignificantDigits() has to give it more.
+///
 /// @code
 /// TickFormatter formatter;
 /// formatter.setLocale(QLocale::c());

@@ -5,14 +5,13 @@
 
 #include <atomic>
 
-/// The library as a whole. A host calls initialize() before it first uses the library and
-/// deinitialize() when it is done; the calls come in pairs, may be nested, and may come from any
-/// thread.
+/// The library as a whole. A host calls initialize() where it starts and deinitialize() when it is
+/// done; the calls come in pairs, may be nested, and may come from any thread.
 ///
 /// What needs it are queued connections and QVariant with the library's own types, which the first
 /// user registers with Qt's meta-type system: Axis::ScaleMode, the base of a gesture and ColorMap.
-/// They stay registered. Another thread that calls initialize() at the same moment doesn't wait for
-/// that.
+/// All else works without it. They stay registered. Another thread that calls initialize() at the
+/// same moment doesn't wait for that.
 ///
 /// @code
 /// Kestrane::initialize(); // At the start of the program, or of a plug-in.

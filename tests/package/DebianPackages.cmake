@@ -57,7 +57,7 @@ foreach(example IN ITEMS minimal window live heat-map)
     "-DCMAKE_CXX_FLAGS=-Wall -Wextra -Werror")
 endforeach()
 expect_output("${first_output}" "${WORK_DIR}/build-minimal/first-chart")
-expect_output("2626 points for 100000 samples\n" "${WORK_DIR}/build-live/live")
+expect_output("2990 points for 100000 samples\n" "${WORK_DIR}/build-live/live")
 file(READ "${CMAKE_CURRENT_LIST_DIR}/heat-map.txt" hill)
 expect_output("${hill}" "${WORK_DIR}/build-heat-map/heat-map")
 # It goes on until it is closed, or falls over.
