@@ -7,12 +7,9 @@
 #include <QVariant>
 
 #include <gtest/gtest.h>
-#include <dlfcn.h>
 
 #include <limits>
-#include <new>
 #include <random>
-#include <stdexcept>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -74,58 +71,6 @@ void expectAsScanned(const ColorMap& map)
 }
 
 } // namespace
-
-#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0) // Later ones have no one place to stand in front of.
-constexpr int Plenty = std::numeric_limits<int>::max();
-static int blocksLeft = Plenty; // How many more blocks Qt gets.
-
-// These two stand in front of Qt's own, which get the memory of vectors and of nodes of maps.
-QArrayData* QArrayData::allocate(size_t size, size_t alignment, size_t capacity,
-                                 AllocationOptions options) noexcept
-{
-    static const auto own = reinterpret_cast<decltype(&QArrayData::allocate)>(
-        dlsym(RTLD_NEXT, "_ZN10QArrayData8allocateEmmm6QFlagsINS_16AllocationOptionEE"));
-    return blocksLeft-- <= 0 ? nullptr : own(size, alignment, capacity, options);
-}
-
-QMapNodeBase* QMapDataBase::createNode(int bytes, int alignment, QMapNodeBase* parent, bool left)
-{
-    using Own = QMapNodeBase* (*)(QMapDataBase*, int, int, QMapNodeBase*, bool);
-    static const auto own =
-        reinterpret_cast<Own>(dlsym(RTLD_NEXT, "_ZN12QMapDataBase10createNodeEiiP12QMapNodeBaseb"));
-    if (blocksLeft-- <= 0)
-        throw std::bad_alloc();
-    return own(this, bytes, alignment, parent, left);
-}
-
-TEST(ColorMapTest, StaysAsItIsWhenMemoryRunsOut)
-{
-    ColorMap map;
-    const auto append = [&map](int blocks) {
-        blocksLeft = blocks;
-        map.appendEntry(Qt::red, 10);
-    };
-    for (const int blocks : {0, 1}) {
-        EXPECT_THROW(append(blocks), std::bad_alloc);
-        EXPECT_TRUE(thresholds(map).empty() && map.colors().isEmpty());
-    }
-    append(Plenty);
-
-    const auto build = [&map](bool fail) {
-        const ColorMap::Builder builder = map.appendEntry(Qt::blue, 5);
-        blocksLeft = 0;
-        if (fail)
-            throw std::runtime_error("reached the caller");
-    };
-    EXPECT_THROW(build(false), std::bad_alloc);
-    blocksLeft = Plenty;
-    EXPECT_THROW(build(true), std::runtime_error);
-    blocksLeft = Plenty;
-    EXPECT_EQ(map.mapToColor(10), QColor(Qt::red));
-    EXPECT_TRUE(map.isUnmatched(5));
-    EXPECT_EQ(thresholds(map), (Thresholds{10}));
-}
-#endif
 
 TEST(ColorMapTest, MapsACountToTheClassThatTakesIt)
 {

@@ -106,6 +106,16 @@ TEST(SurfaceFaults, AreSurvivedByColors)
     walk({
         row<Colors>("appendEntry", [](Colors& c) { c.map.appendEntry(Qt::green, 3); }),
         row<Colors>("build", [](Colors& c) { c.map.build().appendEntry(Qt::green, 3); }),
+        row<Colors>(
+            "build on the way of an exception",
+            [](Colors& c) {
+                try {
+                    const ColorMap::Builder builder = c.map.appendEntry(Qt::green, 3);
+                    throw HostError();
+                } catch (const HostError&) {
+                }
+            },
+            Answer::Partial),
         row<Colors>("ColorMap", [](Colors& c) { return ColorMap(c.map, 1.5); }),
         row<Colors>("operator=", [](Colors& c) { c.map = ColorMap(c.map, 1.5); }),
         row<Colors>(

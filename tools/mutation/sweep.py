@@ -25,7 +25,8 @@ TREE = ROOT / "build/mutation"
 NUMERIC = re.compile(r"kestrane/(axes|plots|surfaces|colors|library/detail)/(?!Registry)"
                      r"|ombrel/(RoundedNumber|ValueFormatter|MinMax)")
 # The quickest first.
-PROGRAMS = ["library", "colors", "ombrel", "axes", "surfaces", "laws", "plots", "logarithm", "accuracy"]
+PROGRAMS = ["library", "colors", "ombrel", "axes", "surfaces", "laws", "plots", "logarithm", "accuracy",
+            "faults"]
 FILTERS = ["-*Differential*", "*Differential*"]
 SECONDS_TO_HANG = 90
 
